@@ -1,0 +1,25 @@
+#pragma once
+
+#include "engine/ResultLabels.h"
+
+namespace vellarno {
+
+/// The distance of two dates by the fields of the calendar, and its totals.
+struct DateFigures
+{
+    int Years;
+    int Months;     ///< 0 to 11
+    int Days;       ///< 0 to 30
+    int TotalDays;  ///< calendar days
+    int TotalWeeks; ///< Mondays after the start up to and including the end
+};
+
+/// @param EndDate  not on a day before that of StartDate. Times of day count in nothing.
+DateFigures DateDifference(double StartDate, double EndDate);
+
+/// Writes the figures of the distance and of CountPeriod, for which both ends are rounded to day
+/// numbers. A long period shows the hourglass meanwhile.
+/// @param SaturdayIsHoliday  Saturdays are no working days.
+void CalcDates(double StartDate, double EndDate, bool SaturdayIsHoliday, ResultLabels& Labels);
+
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "engine/ResultLabels.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace vellarno {
+
+/// The distance of two moments: its clock figures without the whole days, and the whole span cut
+/// down to each unit.
+struct TimeFigures
+{
+    int Hours;   ///< 0 to 23
+    int Minutes; ///< 0 to 59
+    int Seconds; ///< 0 to 59
+    std::int64_t TotalHours;
+    std::int64_t TotalMinutes;
+    std::int64_t TotalSeconds; ///< 1100 years have more than 32 bits hold
+};
+
+/// @param EndDate  not before StartDate.
+TimeFigures TimeDifference(double StartDate, double EndDate);
+
+/// Writes the figures of the distance from StartDate to EndDate.
+/// @param EndTimeOfDay  given where two times of one day are compared: an end before the start then
+///                      lies at this time of the day after the start.
+void CalcTimes(double StartDate, double EndDate, std::optional<double> EndTimeOfDay,
+               ResultLabels& Labels);
+
+}

@@ -1,0 +1,86 @@
+#include "engine/CountPeriod.h"
+
+#include "engine/Holidays.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+namespace vellarno {
+
+namespace {
+
+/// The years that the program takes, and the one into which their last day rounds up.
+constexpr int FirstYear = 1000;
+constexpr int LastYear = 2101;
+
+/// True unless the weekday alone makes the day free.
+bool IsWeekdayOfWork(DayNumber Day, bool SaturdayIsHoliday)
+{
+    const int Number = Weekday(Day, 1);
+    return Number != 1 && !(SaturdayIsHoliday && Number == 7);
+}
+
+/// Holidays of one year, those from the day End on left out.
+int HolidaysOfYear(int Year, bool SaturdayIsHoliday, DayNumber End = LastDate + 1)
+{
+    const auto Counts = [&](DayNumber Holiday) {
+        return Holiday < End && IsWeekdayOfWork(Holiday, SaturdayIsHoliday);
+    };
+    // Where the computation fails, this is a Sunday and counts in nothing.
+    const DayNumber Monday = EasterDate(Year) + 1;
+    int Count = Counts(Monday) ? 1 : 0;
+    for (const DayOfYear& Each : FixedHolidays) {
+        const auto Holiday = static_cast<DayNumber>(DateSerial(Year, Each.Month, Each.Day));
+        if (Holiday != Monday && Counts(Holiday)) ++Count;
+    }
+    return Count;
+}
+
+/// For each year, the holidays since the beginning of FirstYear.
+using YearTotals = std::array<int, LastYear - FirstYear + 1>;
+
+YearTotals SumYears(bool SaturdayIsHoliday)
+{
+    YearTotals Totals{};
+    for (std::size_t i = 1; i < Totals.size(); ++i)
+        Totals[i] =
+            Totals[i - 1] + HolidaysOfYear(FirstYear + static_cast<int>(i) - 1, SaturdayIsHoliday);
+    return Totals;
+}
+
+/// Holidays from the beginning of FirstYear to the day before End, negative if End lies earlier.
+int HolidaysBefore(DayNumber End, bool SaturdayIsHoliday)
+{
+    static const std::array<YearTotals, 2> Totals{SumYears(false), SumYears(true)};
+    const int EndYear = Year(End);
+    const int Known = std::clamp(EndYear, FirstYear, LastYear);
+    int Count = Totals[SaturdayIsHoliday ? 1 : 0][static_cast<std::size_t>(Known - FirstYear)] +
+                HolidaysOfYear(EndYear, SaturdayIsHoliday, End);
+    for (int i = Known; i < EndYear; ++i) Count += HolidaysOfYear(i, SaturdayIsHoliday);
+    for (int i = EndYear; i < Known; ++i) Count -= HolidaysOfYear(i, SaturdayIsHoliday);
+    return Count;
+}
+
+}
+
+PeriodFigures CountPeriod(DayNumber FromDay, DayNumber ToDay, bool SaturdayIsHoliday)
+{
+    const int DayCount = std::abs(FromDay - ToDay);
+    const DayNumber End = FromDay + DayCount;
+    const auto CountWeekdays = [&](int Number) {
+        return static_cast<int>(DateDiff("ww", FromDay - 1, End - 1, Number));
+    };
+
+    PeriodFigures Figures{};
+    Figures.DayCount = DayCount;
+    Figures.Sundays = CountWeekdays(1);
+    Figures.Saturdays = CountWeekdays(7);
+    Figures.Holidays =
+        HolidaysBefore(End, SaturdayIsHoliday) - HolidaysBefore(FromDay, SaturdayIsHoliday);
+    Figures.WorkingDays =
+        DayCount - Figures.Sundays - Figures.Holidays - (SaturdayIsHoliday ? Figures.Saturdays : 0);
+    return Figures;
+}
+
+}

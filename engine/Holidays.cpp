@@ -1,0 +1,38 @@
+#include "engine/Holidays.h"
+
+#include <algorithm>
+
+namespace vellarno {
+
+int EasterDate(int Year)
+{
+    if (Year < 0 || Year > 9999) return 0;
+    const int a = Year % 19;
+    const int b = Year / 100;
+    const int c = Year % 100;
+    const int d = b / 4;
+    const int e = b % 4;
+    const int f = (b + 8) / 25;
+    const int g = (b - f + 1) / 3;
+    const int h = (19 * a + b - d - g + 15) % 30;
+    const int i = c / 4;
+    const int k = c % 4;
+    const int l = (32 + 2 * e + 2 * i - h - k) % 7;
+    const int m = (a + 11 * h + 22 * l) / 451;
+    const int n = h + l - 7 * m + 114;
+    return static_cast<int>(DateSerial(Year, n / 31, n % 31 + 1));
+}
+
+bool IsHoliday(DayNumber Serial, DayNumber MondayNumber)
+{
+    if (Weekday(Serial, 1) == 1) return true;
+
+    const int Mese = Month(Serial);
+    const int Giorno = Day(Serial);
+    if (Serial == MondayNumber && (Mese == 3 || Mese == 4)) return true;
+    return std::any_of(FixedHolidays.begin(), FixedHolidays.end(), [&](const DayOfYear& Each) {
+        return Each.Month == Mese && Each.Day == Giorno;
+    });
+}
+
+}

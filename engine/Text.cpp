@@ -1,0 +1,178 @@
+#include "engine/Text.h"
+
+#include "engine/DateTime.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace vellarno {
+
+namespace {
+
+constexpr std::array<std::string_view, 7> WeekdayNames{
+    "domenica", "lunedì", "martedì", "mercoledì", "giovedì", "venerdì", "sabato"};
+
+constexpr std::array<std::string_view, 12> ShortMonthNames{
+    "gen", "feb", "mar", "apr", "mag", "giu", "lug", "ago", "set", "ott", "nov", "dic"};
+
+template <typename T>
+std::optional<T> ParseDigits(std::string_view Text)
+{
+    if (!IsNumeric(Text)) return std::nullopt;
+    T Number{};
+    const auto Parsed = std::from_chars(Text.data(), Text.data() + Text.size(), Number);
+    if (Parsed.ec != std::errc{}) return std::nullopt;
+    return Number;
+}
+
+std::string_view WithoutBlanks(std::string_view Text)
+{
+    const auto First = std::min(Text.find_first_not_of(' '), Text.size());
+    return Text.substr(First, Text.find_last_not_of(' ') + 1 - First);
+}
+
+/// The number before the next separator or the end; takes both off the text.
+std::optional<std::int16_t> TakeNumber(std::string_view& Text)
+{
+    const auto Length = std::min(Text.find('/'), Text.size());
+    const auto Number = CInt(WithoutBlanks(Text.substr(0, Length)));
+    Text.remove_prefix(std::min(Length + 1, Text.size()));
+    return Number;
+}
+
+std::string Digits(double Value, std::size_t Least, bool Grouped)
+{
+    // Plain digits of the largest double, with a sign.
+    std::array<char, std::numeric_limits<double>::max_exponent10 + 3> Buffer{};
+    const double Whole = std::round(std::abs(Value));
+    const char* const End =
+        std::to_chars(Buffer.begin(), Buffer.end(), Whole, std::chars_format::fixed, 0).ptr;
+    std::string Text(std::as_const(Buffer).begin(), End);
+    if (Text.size() < Least) Text.insert(0, Least - Text.size(), '0');
+    for (std::size_t Right = 3; Grouped && Right < Text.size(); Right += 4)
+        Text.insert(Text.size() - Right, 1, '.');
+    if (Value < 0 && Whole > 0) Text.insert(0, 1, '-');
+    return Text;
+}
+
+std::string TwoDigits(int Number)
+{
+    return Digits(Number, 2, false);
+}
+
+struct DateField
+{
+    std::string_view Name;
+    std::string (*Print)(double x);
+};
+
+std::string PrintWeekday(double x)
+{
+    return std::string(WeekdayNames.at(static_cast<std::size_t>(Weekday(x, 1) - 1)));
+}
+
+std::string PrintShortMonth(double x)
+{
+    return std::string(ShortMonthNames.at(static_cast<std::size_t>(Month(x) - 1)));
+}
+
+/// A longer name stands before the shorter one that it begins with.
+constexpr std::array<DateField, 8> DateFields{{
+    {"dddd", PrintWeekday},
+    {"dd", [](double x) { return TwoDigits(Day(x)); }},
+    {"mmm", PrintShortMonth},
+    {"mm", [](double x) { return TwoDigits(Minute(x)); }},
+    {"yyyy", [](double x) { return Digits(Year(x), 4, false); }},
+    {"yy", [](double x) { return TwoDigits(Year(x) % 100); }},
+    {"hh", [](double x) { return TwoDigits(Hour(x)); }},
+    {"ss", [](double x) { return TwoDigits(Second(x)); }},
+}};
+
+std::string FormatDate(double Value, std::string_view Pattern)
+{
+    std::string Text;
+    while (!Pattern.empty()) {
+        const auto* const Field =
+            std::find_if(DateFields.begin(), DateFields.end(), [&](const DateField& Each) {
+                return Pattern.substr(0, Each.Name.size()) == Each.Name;
+            });
+        const bool Found = Field != DateFields.end();
+        Text += Found ? Field->Print(Value) : std::string(1, Pattern.front());
+        Pattern.remove_prefix(Found ? Field->Name.size() : 1);
+    }
+    return Text;
+}
+
+}
+
+bool IsNumeric(std::string_view Text)
+{
+    return !Text.empty() && Text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+std::optional<std::int16_t> CInt(std::string_view Text)
+{
+    return ParseDigits<std::int16_t>(Text);
+}
+
+std::optional<double> CDbl(std::string_view Text)
+{
+    return ParseDigits<double>(Text);
+}
+
+std::string CStr(int Number)
+{
+    return std::to_string(Number);
+}
+
+int CLng(double Number)
+{
+    return static_cast<int>(std::nearbyint(Number));
+}
+
+bool IsDate(std::string_view Text)
+{
+    return CDate(Text).has_value();
+}
+
+std::optional<double> CDate(std::string_view Text)
+{
+    const auto Separators = std::count(Text.begin(), Text.end(), '/');
+    const auto Giorno = TakeNumber(Text);
+    const auto Mese = TakeNumber(Text);
+    const auto Anno = TakeNumber(Text);
+    if (Separators != 2 || !Giorno || !Mese || !Anno || *Anno > 9999) return std::nullopt;
+
+    // A day that the calendar lacks is one that DateSerial carries over.
+    const double Result = DateSerial(*Anno, *Mese, *Giorno);
+    if (Day(Result) != *Giorno || Month(Result) != *Mese) return std::nullopt;
+    return Result;
+}
+
+std::string Format(double Value, std::string_view Pattern)
+{
+    if (Pattern.substr(0, 1) != "0") return FormatDate(Value, Pattern);
+
+    const auto Zeros = static_cast<std::size_t>(std::count(Pattern.begin(), Pattern.end(), '0'));
+    return Digits(Value, Zeros, Pattern.find(',') != std::string_view::npos);
+}
+
+std::string Format(std::string_view Text, std::string_view Pattern)
+{
+    const auto Value = CDbl(Text);
+    return Value ? Format(*Value, Pattern) : std::string(Text);
+}
+
+std::string WeekdayText(int Number)
+{
+    if (Number < 1 || Number > 7) return "";
+    std::string Name(WeekdayNames[static_cast<std::size_t>(Number - 1)]);
+    Name.front() = static_cast<char>(Name.front() - 'a' + 'A');
+    return Name;
+}
+
+}

@@ -1,0 +1,2 @@
+#include "services/forms/Form.h"
+#include "ui_frmMain.h"

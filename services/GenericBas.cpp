@@ -1,0 +1,51 @@
+#include "services/GenericBas.h"
+
+#include "resources/Resources.h"
+#include "services/Platform.h"
+#include "services/forms/CheckBox.h"
+#include "services/forms/CommandButton.h"
+#include "services/forms/OptionButton.h"
+
+#include <filesystem>
+
+namespace vellarno {
+
+bool OnTopFlag = false;
+
+void SetHandCursor(const forms::Form& Form)
+{
+    for (forms::Control* control : Form.Controls()) {
+        const bool pressed = dynamic_cast<forms::CheckBox*>(control) ||
+                             dynamic_cast<forms::OptionButton*>(control) ||
+                             dynamic_cast<forms::CommandButton*>(control);
+        if (!pressed) continue;
+        control->SetMousePointer(forms::CustomPointer);
+        control->SetMouseIcon(resources::HandCursor);
+    }
+}
+
+void PlayResSound(int Id)
+{
+    System().PlaySound(forms::ReadResource(resources::Custom(Id)));
+    forms::DoEvents();
+}
+
+void SetAlwaysOnTop(forms::Form& Form, bool OnTop)
+{
+    Form.SetTopmost(OnTop);
+}
+
+std::string GetTempDirectory()
+{
+    const std::string folder = System().PrivateFolder();
+    return folder.empty() ? folder : folder + '/';
+}
+
+bool FileExists(const std::string& Path)
+{
+    std::error_code ignored;
+    const auto status = std::filesystem::status(Path, ignored);
+    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "services/forms/Form.h"
+
+#include <string>
+
+namespace vellarno {
+
+/// The main window is pinned always on top. Only its pin writes this; the other windows read it
+/// when they load. Not stored between runs.
+extern bool OnTopFlag;
+
+/// Gives the hand cursor to the form's check boxes, option buttons and command buttons.
+void SetHandCursor(const forms::Form& Form);
+
+/// Starts a sound of the resources and returns without waiting for its end.
+/// @param Id  201, the opening of the calculator, or 202, the click of an option or check box.
+void PlayResSound(int Id);
+
+/// Keeps the window above all ordinary windows, or gives that up. It is neither moved nor hidden.
+void SetAlwaysOnTop(forms::Form& Form, bool OnTop);
+
+/// The user's folder for files of a run, with a separator at its end so that a file name can be
+/// added, or the empty string if there is none that only the user can enter.
+std::string GetTempDirectory();
+
+/// Whether the path names something that isn't a folder. No error leaves it.
+bool FileExists(const std::string& Path);
+
+}

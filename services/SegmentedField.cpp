@@ -1,0 +1,57 @@
+#include "services/SegmentedField.h"
+
+#include "engine/Text.h"
+#include "services/Platform.h"
+
+namespace vellarno {
+
+namespace {
+
+void Refuse(forms::TextBox& Box)
+{
+    Box.SetText("");
+    System().Beep();
+}
+
+}
+
+void SegmentedField::Change(int Index, const std::function<void()>& AfterRefusal) const
+{
+    forms::TextBox& box = boxes[Index];
+    const Segment& rule = rules[static_cast<std::size_t>(Index)];
+    if (!IsNumeric(box.Text())) {
+        Refuse(box);
+        return;
+    }
+    if (const auto value = CInt(box.Text()); !value || *value > rule.Limit) {
+        Refuse(box);
+        if (AfterRefusal) AfterRefusal();
+    }
+    if (rule.RefusesZeros && box.Text() == "00") Refuse(box);
+    const int full = rule.FullLength == Segment::ByMaxLength ? box.MaxLength() : rule.FullLength;
+    if (static_cast<int>(box.Text().size()) != full) return;
+    if (rule.Next != Segment::End)
+        boxes[rule.Next].SetFocus();
+    else if (after)
+        after->SetFocus();
+}
+
+void SegmentedField::Pad(int Index) const
+{
+    forms::TextBox& box = boxes[Index];
+    if (box.Text().size() == 1) box.SetText(Format(box.Text(), "00"));
+}
+
+void SegmentedField::Select(int Index) const
+{
+    boxes[Index].Select(0, static_cast<int>(boxes[Index].Text().size()));
+}
+
+void FilterDigits(short& KeyAscii)
+{
+    constexpr short Backspace = 8;
+    constexpr short NoEffect = 1;
+    if (KeyAscii != Backspace && (KeyAscii < '0' || KeyAscii > '9')) KeyAscii = NoEffect;
+}
+
+}

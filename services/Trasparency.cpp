@@ -1,0 +1,36 @@
+#include "services/Trasparency.h"
+
+#include "services/Platform.h"
+
+#include <chrono>
+#include <thread>
+
+namespace vellarno {
+
+namespace {
+
+constexpr int FirstAlpha = 10;
+constexpr int Opaque = 255;
+constexpr std::chrono::milliseconds StepTime{3};
+
+}
+
+bool IsLayeredCapable()
+{
+    return System().Compositing();
+}
+
+void FadeInForm(forms::Form& Form)
+{
+    if (!IsLayeredCapable()) return;
+    const forms::FormWatch watch(Form);
+    Form.SetAlpha(FirstAlpha);
+    Form.Show();
+    for (int alpha = FirstAlpha; alpha <= Opaque && watch.StillOpen(); ++alpha) {
+        Form.SetAlpha(alpha);
+        std::this_thread::sleep_for(StepTime);
+        forms::DoEvents();
+    }
+}
+
+}

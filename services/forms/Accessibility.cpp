@@ -1,0 +1,61 @@
+#include "services/forms/Accessibility.h"
+
+#include "services/forms/Control.h"
+#include "services/forms/Image.h"
+#include "services/forms/Label.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+namespace vellarno::forms {
+
+namespace {
+
+/// A label, picture or picture box: a button where a click does something.
+class PictureInterface : public QAccessibleWidget
+{
+public:
+    PictureInterface(QWidget& Widget, Control& Of, QAccessible::Role Passive)
+        : QAccessibleWidget(&Widget, Of.Click ? QAccessible::Button : Passive), control(Of)
+    {
+    }
+
+    QString text(QAccessible::Text Kind) const override
+    {
+        const QString own = QAccessibleWidget::text(Kind);
+        if (Kind != QAccessible::Name || !own.isEmpty()) return own;
+        const auto* label = dynamic_cast<const Label*>(widget());
+        return label ? label->text() : own;
+    }
+
+    QStringList actionNames() const override
+    {
+        return control.Click ? QStringList{pressAction()} : QStringList{};
+    }
+
+    void doAction(const QString& Action) override
+    {
+        if (Action == pressAction() && control.Enabled() && control.Click) control.Click();
+    }
+
+private:
+    Control& control;
+};
+
+QAccessibleInterface* MakeInterface(const QString&, QObject* Object)
+{
+    if (auto* label = dynamic_cast<Label*>(Object))
+        return new PictureInterface(*label, *label, QAccessible::StaticText);
+    if (auto* image = dynamic_cast<Image*>(Object))
+        return new PictureInterface(*image, *image, QAccessible::Graphic);
+    return nullptr;
+}
+
+}
+
+void SetUpAccessibility()
+{
+    QAccessible::installFactory(MakeInterface);
+}
+
+}

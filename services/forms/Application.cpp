@@ -1,0 +1,94 @@
+#include "services/forms/Application.h"
+
+#include "services/forms/Accessibility.h"
+#include "services/forms/Look.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QSessionManager>
+#include <QSocketNotifier>
+#include <QTranslator>
+
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace vellarno::forms {
+
+namespace {
+
+int signalPipe[2] = {-1, -1};
+
+/// Only what a signal handler may do: the events of the windows hear of it through the pipe.
+void NoteSignal(int)
+{
+    const char byte = 0;
+    [[maybe_unused]] const auto written = write(signalPipe[1], &byte, 1);
+}
+
+/// Where the session offers both, X11: on Wayland a program can neither pin nor place its windows.
+void PreferX11()
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+}
+
+}
+
+struct Application::Parts
+{
+    Parts(int& ArgumentCount, char** Arguments) : application(ArgumentCount, Arguments) {}
+
+    QApplication application;
+    QTranslator italian;
+    std::unique_ptr<QSocketNotifier> signals;
+    std::function<void()> end;
+};
+
+Application::Application(int& ArgumentCount, char** Arguments)
+{
+    PreferX11();
+    parts = std::make_unique<Parts>(ArgumentCount, Arguments);
+    QApplication::setApplicationName(QStringLiteral("vellarno"));
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setDesktopFileName(QStringLiteral("vellarno"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    SetUpLook();
+    SetUpAccessibility();
+    if (parts->italian.load(QStringLiteral("qtbase_it"),
+                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&parts->italian);
+}
+
+Application::~Application() = default;
+
+int Application::Run()
+{
+    return QApplication::exec();
+}
+
+void Application::Quit()
+{
+    QApplication::quit();
+}
+
+void Application::OnEndRequest(std::function<void()> Handler)
+{
+    parts->end = std::move(Handler);
+    QObject::connect(&parts->application, &QGuiApplication::commitDataRequest,
+                     [this](QSessionManager& session) {
+                         session.setRestartHint(QSessionManager::RestartNever);
+                         parts->end();
+                     });
+    if (pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) return;
+    parts->signals = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
+    QObject::connect(parts->signals.get(), &QSocketNotifier::activated, [this] {
+        parts->signals->setEnabled(false);
+        parts->end();
+    });
+    struct sigaction action = {};
+    action.sa_handler = NoteSignal;
+    sigaction(SIGTERM, &action, nullptr);
+    sigaction(SIGINT, &action, nullptr);
+}
+
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "services/forms/Control.h"
+
+#include <QCheckBox>
+
+namespace vellarno::forms {
+
+/// A choice that stands for itself. Click comes with every change of the value.
+class CheckBox : public ControlOf<QCheckBox>
+{
+    Q_OBJECT
+
+public:
+    explicit CheckBox(QWidget* Parent = nullptr) : ControlOf<QCheckBox>(Parent)
+    {
+        connect(this, &QAbstractButton::toggled, this, [this] {
+            if (Click) Click();
+        });
+    }
+
+    /// 1 ticked, 0 not.
+    int Value() const { return isChecked() ? 1 : 0; }
+    void SetValue(int Value) { setChecked(Value == 1); }
+};
+
+}

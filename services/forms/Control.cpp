@@ -1,0 +1,166 @@
+#include "services/forms/Control.h"
+
+#include "services/forms/Form.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+
+namespace vellarno::forms {
+
+namespace {
+
+constexpr short KeyNothing = 1;
+constexpr short KeyDropped = 0;
+
+/// The character code of a key press: control characters as their codes, 0 for a key without one.
+short CharacterCode(const QKeyEvent& Event)
+{
+    switch (Event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return 13;
+    case Qt::Key_Escape: return 27;
+    case Qt::Key_Backspace: return 8;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Delete: return 0;
+    default: break;
+    }
+    const auto modifiers = Event.modifiers();
+    const bool control = modifiers.testFlag(Qt::ControlModifier);
+    if (modifiers.testFlag(Qt::AltModifier) && !control) return 0;
+    if (control && Event.key() >= Qt::Key_A && Event.key() <= Qt::Key_Z)
+        return static_cast<short>(Event.key() - Qt::Key_A + 1);
+    return Event.text().isEmpty() ? short{0} : static_cast<short>(Event.text().front().unicode());
+}
+
+}
+
+Control::Control(QWidget& Widget) : self(Widget)
+{
+    self.setMouseTracking(true);
+}
+
+Form* Control::ParentForm() const
+{
+    return dynamic_cast<Form*>(self.window());
+}
+
+void Control::SetFocus()
+{
+    if (self.isEnabled()) self.setFocus(Qt::OtherFocusReason);
+}
+
+void Control::SetFontSize(int Pixels)
+{
+    QFont font = self.font();
+    font.setPixelSize(Pixels);
+    self.setFont(font);
+}
+
+void Control::SetFontBold(bool Bold)
+{
+    QFont font = self.font();
+    font.setBold(Bold);
+    self.setFont(font);
+}
+
+void Control::SetMousePointer(int Pointer)
+{
+    pointer = Pointer;
+    UpdatePointer();
+}
+
+void Control::SetMouseIcon(int ResourceId)
+{
+    icon = ResourceId;
+    UpdatePointer();
+}
+
+void Control::UpdatePointer()
+{
+    if (pointer == HelpPointer)
+        self.setCursor(Qt::WhatsThisCursor);
+    else if (pointer == HourglassPointer)
+        self.setCursor(Qt::WaitCursor);
+    else if (pointer == CustomPointer && icon != 0)
+        self.setCursor(Qt::PointingHandCursor);
+    else
+        self.unsetCursor();
+}
+
+Control::KeyFate Control::FilterCharacter(short& KeyAscii)
+{
+    const short original = KeyAscii;
+    if (Form* form = ParentForm(); form && form->KeyPreview && form->KeyPress) form->KeyPress(KeyAscii);
+    if (KeyAscii != KeyDropped && KeyPress) KeyPress(KeyAscii);
+    if (KeyAscii == KeyDropped || KeyAscii == KeyNothing) return KeyFate::Swallowed;
+    return KeyAscii == original ? KeyFate::Unchanged : KeyFate::Replaced;
+}
+
+Control::KeyFate Control::FilterKey(const QKeyEvent& Event, short& KeyAscii)
+{
+    KeyAscii = CharacterCode(Event);
+    return KeyAscii == 0 ? KeyFate::Unchanged : FilterCharacter(KeyAscii);
+}
+
+bool Control::BeforeEvent(QEvent& Event)
+{
+    // A key that a control left alone comes by its containers as well.
+    if (Event.type() != QEvent::KeyPress || filtered || self.window()->focusWidget() != &self)
+        return false;
+    auto& key = static_cast<QKeyEvent&>(Event);
+    const QPointer<QWidget> alive = &self;
+    if (Form* form = ParentForm(); form && form->PressDialogButton(key)) return true;
+    short code = 0;
+    const KeyFate fate = FilterKey(key, code);
+    if (fate == KeyFate::Swallowed || !alive) {
+        key.accept();
+        return true;
+    }
+    if (fate == KeyFate::Replaced) {
+        QKeyEvent replaced(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(code)));
+        filtered = true;
+        QCoreApplication::sendEvent(&self, &replaced);
+        filtered = false;
+        return true;
+    }
+    return false;
+}
+
+bool Control::AfterEvent(QEvent& Event)
+{
+    switch (Event.type()) {
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        if (Form* form = ParentForm()) form->FocusMoved(*this, static_cast<QFocusEvent&>(Event));
+        if (self.parentWidget()) self.parentWidget()->update();
+        return false;
+    case QEvent::EnabledChange:
+        // A disabled control's area belongs to what lies behind it: moves, clicks, tooltips.
+        self.setAttribute(Qt::WA_TransparentForMouseEvents, !self.isEnabled());
+        if (self.parentWidget()) self.parentWidget()->update();
+        return false;
+    case QEvent::MouseMove:
+        if (MouseMove) MouseMove();
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        if (MouseDown) MouseDown();
+        break;
+    case QEvent::MouseButtonRelease:
+        if (MouseUp) MouseUp();
+        if (auto& release = static_cast<QMouseEvent&>(Event);
+            Click && ClickedByMouse() && release.button() == Qt::LeftButton &&
+            self.rect().contains(release.position().toPoint()))
+            Click();
+        break;
+    default: return false;
+    }
+    // What happened over a control is not told to the window behind it as well.
+    Event.accept();
+    return true;
+}
+
+}

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <QEvent>
+#include <QWidget>
+#include <functional>
+#include <string>
+
+class QKeyEvent;
+class QMouseEvent;
+
+namespace vellarno::forms {
+
+class Form;
+
+/// Mouse pointers that the windows use. Custom shows the hand that SetMouseIcon gave.
+enum MousePointer { DefaultPointer = 0, HourglassPointer = 11, HelpPointer = 14, CustomPointer = 99 };
+
+/// What every control has, whatever widget does its work. Measures are pixels of the container;
+/// text is UTF-8. Events are plain callables: an empty one is an event that nobody handles.
+class Control
+{
+public:
+    std::function<void()> GotFocus;
+    std::function<void()> LostFocus;
+    std::function<void()> MouseMove;
+    std::function<void()> MouseDown;
+    std::function<void()> MouseUp;
+    std::function<void()> Click;
+    /// The handler may replace KeyAscii: 1 inserts nothing, 0 drops the key.
+    std::function<void(short& KeyAscii)> KeyPress;
+
+    virtual ~Control() = default;
+
+    bool Enabled() const { return self.isEnabled(); }
+    void SetEnabled(bool Enabled) { self.setEnabled(Enabled); }
+    /// What the control itself was told, also while its container is hidden.
+    bool Visible() const { return !self.isHidden(); }
+    void SetVisible(bool Visible) { self.setVisible(Visible); }
+
+    int Left() const { return self.x(); }
+    int Top() const { return self.y(); }
+    int Width() const { return self.width(); }
+    int Height() const { return self.height(); }
+    void SetLeft(int Left) { self.move(Left, self.y()); }
+    void SetTop(int Top) { self.move(self.x(), Top); }
+    void SetWidth(int Width) { self.resize(Width, self.height()); }
+    void SetHeight(int Height) { self.resize(self.width(), Height); }
+    void Move(int Left, int Top, int Width, int Height) { self.setGeometry(Left, Top, Width, Height); }
+    /// Above, or below, all that shares its container.
+    void BringToFront() { self.raise(); }
+    void SendToBack() { self.lower(); }
+    /// Moves the control, place and all, into another container.
+    void SetContainer(Control& Container) { self.setParent(&Container.self); }
+
+    /// Does nothing on a disabled control; while the control is hidden it is only noted.
+    void SetFocus();
+
+    std::string ToolTipText() const { return self.toolTip().toStdString(); }
+    void SetToolTipText(const std::string& Text) { self.setToolTip(QString::fromStdString(Text)); }
+    std::string AccessibleName() const { return self.accessibleName().toStdString(); }
+    void SetAccessibleName(const std::string& Name)
+    {
+        self.setAccessibleName(QString::fromStdString(Name));
+    }
+
+    /// Pixels.
+    int FontSize() const { return self.font().pixelSize(); }
+    void SetFontSize(int Pixels);
+    bool FontBold() const { return self.font().bold(); }
+    void SetFontBold(bool Bold);
+
+    int MousePointer() const { return pointer; }
+    void SetMousePointer(int Pointer);
+    /// The pointer that CustomPointer shows; the only one that the program carries is the hand.
+    void SetMouseIcon(int ResourceId);
+
+    /// The widget behind the control, for the runtime and for tests that send it real events.
+    QWidget& Widget() const { return self; }
+
+protected:
+    explicit Control(QWidget& Widget);
+
+    /// The key's way before the widget sees it: the form's default and cancel button, the form's
+    /// KeyPress, the control's own. Gives the code that is left, or nothing for a key that raises
+    /// no KeyPress.
+    enum class KeyFate { Unchanged, Replaced, Swallowed };
+    KeyFate FilterKey(const QKeyEvent& Event, short& KeyAscii);
+    KeyFate FilterCharacter(short& KeyAscii);
+
+    /// Before and after the widget's own handling. True: the event goes no further.
+    bool BeforeEvent(QEvent& Event);
+    bool AfterEvent(QEvent& Event);
+
+    /// Labels and pictures are clicked by the mouse; buttons raise Click in their own way.
+    virtual bool ClickedByMouse() const { return false; }
+
+    Form* ParentForm() const;
+
+private:
+    void UpdatePointer();
+
+    QWidget& self;
+    int pointer = DefaultPointer;
+    int icon = 0;
+    bool filtered = false; ///< the key under way has passed the filter already
+    friend class Form;
+};
+
+/// Joins the common part of all controls to the Qt widget that does the work.
+template <class WidgetClass>
+class ControlOf : public WidgetClass, public Control
+{
+protected:
+    explicit ControlOf(QWidget* Parent)
+        : WidgetClass(Parent), Control(static_cast<QWidget&>(*this))
+    {
+    }
+
+    bool event(QEvent* Event) override
+    {
+        if (BeforeEvent(*Event)) return true;
+        const bool handled = WidgetClass::event(Event);
+        return AfterEvent(*Event) || handled;
+    }
+};
+
+}

@@ -1,0 +1,131 @@
+#include "services/forms/Desktop.h"
+
+#include "services/forms/Look.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPainter>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+#include <qguiapplication_platform.h>
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+
+namespace vellarno::forms {
+
+namespace {
+
+constexpr int MessagePictureSide = 32;
+
+QPixmap MessagePicture(const QWidget& Box, MessageStyle Style)
+{
+    const qreal scale = Box.devicePixelRatioF();
+    QPixmap picture(QSize(MessagePictureSide, MessagePictureSide) * scale);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    DrawPicture(painter, QRectF(0, 0, MessagePictureSide, MessagePictureSide),
+                Style == Critical ? QStringLiteral(":/pictures/error.svg")
+                                  : QStringLiteral(":/pictures/info.svg"));
+    return picture;
+}
+
+}
+
+void MsgBox(const std::string& Prompt, MessageStyle Style, const std::string& Title)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromStdString(Prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+    box.setWindowTitle(QString::fromStdString(Title));
+    box.setIconPixmap(MessagePicture(box, Style));
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+void Beep()
+{
+    QApplication::beep();
+}
+
+void DoEvents()
+{
+    QApplication::processEvents();
+}
+
+void SendKeys(const std::string& Keys)
+{
+    QWidget* target = QApplication::focusWidget();
+    if (Keys != "{TAB}" || !target) return;
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+        QApplication::postEvent(target, new QKeyEvent(type, Qt::Key_Tab, Qt::NoModifier));
+}
+
+void SetScreenPointer(bool Hourglass)
+{
+    while (QApplication::overrideCursor()) QApplication::restoreOverrideCursor();
+    if (Hourglass) QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+bool OpenAddress(const std::string& Address)
+{
+    const QString address = QString::fromStdString(Address);
+    return QDesktopServices::openUrl(address.startsWith('/') ? QUrl::fromLocalFile(address)
+                                                             : QUrl(address));
+}
+
+bool StartDetached(const std::string& Program, const std::vector<std::string>& Arguments)
+{
+    QStringList arguments;
+    for (const auto& argument : Arguments) arguments += QString::fromStdString(argument);
+    const QString path = QStandardPaths::findExecutable(QString::fromStdString(Program));
+    return !path.isEmpty() && QProcess::startDetached(path, arguments);
+}
+
+bool OnX11()
+{
+    return qGuiApp->nativeInterface<QNativeInterface::QX11Application>() != nullptr;
+}
+
+bool Compositing()
+{
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (!x11) return false;
+    // Whoever composes the screen owns this selection (Extended Window Manager Hints).
+    constexpr char selection[] = "_NET_WM_CM_S0";
+    xcb_connection_t* display = x11->connection();
+    auto* atom = xcb_intern_atom_reply(
+        display, xcb_intern_atom(display, 1, sizeof selection - 1, selection), nullptr);
+    if (!atom) return false;
+    auto* owner = xcb_get_selection_owner_reply(
+        display, xcb_get_selection_owner(display, atom->atom), nullptr);
+    const bool composed = owner && owner->owner != XCB_NONE;
+    std::free(atom);
+    std::free(owner);
+    return composed;
+}
+
+std::string PrivateFolder()
+{
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (runtime.isEmpty()) return {};
+    const QString folder = runtime + QLatin1String("/vellarno");
+    const auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    const QFileInfo found(folder);
+    const bool ready = found.isDir() ? !found.isSymLink() : QDir().mkdir(folder, ownerOnly);
+    return ready ? folder.toStdString() : std::string();
+}
+
+std::string ReadResource(const std::string& Path)
+{
+    QFile resource(QString::fromStdString(Path));
+    return resource.open(QIODevice::ReadOnly) ? resource.readAll().toStdString() : std::string();
+}
+
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vellarno::forms {
+
+/// Style codes of a message box.
+enum MessageStyle { Critical = 16, Information = 64 };
+
+/// Shows a modal message with the one button OK and returns when it has been closed.
+void MsgBox(const std::string& Prompt, MessageStyle Style, const std::string& Title);
+
+/// The system's beep.
+void Beep();
+
+/// Serves the pending events once.
+void DoEvents();
+
+/// Sends a keystroke to the control that has the focus, after the events that wait already.
+/// @param Keys  "{TAB}"; anything else is ignored.
+void SendKeys(const std::string& Keys);
+
+/// The pointer over all windows of the program: the hourglass, or their own pointers again.
+void SetScreenPointer(bool Hourglass);
+
+/// Opens a file or an address in the application that the desktop has for it.
+/// @return false when the desktop has none or could not start it.
+bool OpenAddress(const std::string& Address);
+
+/// Starts a program that then lives by itself, without a shell. @return false if it isn't there.
+bool StartDetached(const std::string& Program, const std::vector<std::string>& Arguments);
+
+/// Whether windows can be seen through: a compositor runs on the display.
+bool Compositing();
+
+/// Whether windows stand on an X server.
+bool OnX11();
+
+/// A folder for files of this run that only the user can enter, or the empty string.
+std::string PrivateFolder();
+
+/// The bytes of a resource, or none if there is no such resource.
+std::string ReadResource(const std::string& Path);
+
+}

@@ -1,0 +1,183 @@
+#include "services/forms/Form.h"
+
+#include "services/forms/CommandButton.h"
+#include "services/forms/Look.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+namespace vellarno::forms {
+
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+/// What a desktop's title bar and edges add to the height of a window of fixed size.
+constexpr int FrameHeight = 27;
+
+Qt::WindowFlags FlagsOf(FormBorder Border)
+{
+    const Qt::WindowFlags framed = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    switch (Border) {
+    case FormBorder::FixedSingle: return Qt::Window | framed | Qt::WindowMinimizeButtonHint;
+    case FormBorder::FixedDialog: return Qt::Dialog | framed;
+    case FormBorder::FixedToolWindow: return Qt::Dialog | framed;
+    }
+    return Qt::Window;
+}
+
+}
+
+Form::Form(FormBorder Border) : QWidget(nullptr, FlagsOf(Border)), border(Border)
+{
+    setMouseTracking(true);
+}
+
+Form::~Form()
+{
+    if (modalLoop) modalLoop->quit();
+}
+
+void Form::LoadOnce()
+{
+    if (loaded) return;
+    loaded = true;
+    const auto load = std::exchange(Load, nullptr); // outlives a window that is closed meanwhile
+    if (load) load();
+}
+
+void Form::Place()
+{
+    const QRect around = border == FormBorder::FixedToolWindow && parentWidget()
+                             ? parentWidget()->geometry()
+                             : screen()->availableGeometry();
+    move(around.center() - rect().center());
+}
+
+void Form::TakeOwner(Form* Owner)
+{
+    if (!Owner || parentWidget() == Owner) return;
+    setParent(Owner, windowFlags());
+    setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void Form::Show(Form* Owner)
+{
+    TakeOwner(Owner);
+    const QPointer<Form> alive = this;
+    LoadOnce();
+    if (!alive) return; // closed while it loaded
+    if (!isVisible()) Place();
+    show();
+    raise();
+    activateWindow();
+}
+
+void Form::ShowModal(Form& Owner)
+{
+    TakeOwner(&Owner);
+    setWindowModality(Qt::ApplicationModal);
+    LoadOnce();
+    QEventLoop loop;
+    modalLoop = &loop;
+    const QPointer<Form> alive = this;
+    Place();
+    show();
+    loop.exec(QEventLoop::DialogExec);
+    if (alive) modalLoop = nullptr;
+}
+
+void Form::SetHeight(int Twips)
+{
+    setFixedSize(width(), Twips / TwipsPerPixel - FrameHeight);
+}
+
+void Form::SetAlpha(int Alpha)
+{
+    setWindowOpacity(Alpha / 255.0);
+}
+
+void Form::SetTopmost(bool OnTop)
+{
+    topmost = OnTop;
+    if (QWindow* window = windowHandle()) window->setFlag(Qt::WindowStaysOnTopHint, OnTop);
+}
+
+void Form::showEvent(QShowEvent* Event)
+{
+    QWidget::showEvent(Event);
+    if (topmost) SetTopmost(true);
+}
+
+Control* Form::ActiveControl() const
+{
+    return dynamic_cast<Control*>(focusWidget());
+}
+
+std::vector<Control*> Form::Controls() const
+{
+    std::vector<Control*> controls;
+    for (QWidget* child : findChildren<QWidget*>())
+        if (auto* control = dynamic_cast<Control*>(child)) controls.push_back(control);
+    return controls;
+}
+
+bool Form::PressDialogButton(const QKeyEvent& Event)
+{
+    const bool enter = Event.key() == Qt::Key_Return || Event.key() == Qt::Key_Enter;
+    CommandButton* button = nullptr;
+    if (Event.key() == Qt::Key_Escape)
+        button = cancelButton;
+    else if (enter && !dynamic_cast<CommandButton*>(focusWidget()))
+        button = defaultButton;
+    if (!button || !button->Enabled()) return false;
+    button->click();
+    return true;
+}
+
+void Form::FocusMoved(Control& To, const QFocusEvent& Event)
+{
+    // Another program, a message box or a menu took the keyboard: nobody left the field.
+    const auto reason = Event.reason();
+    const bool elsewhere = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+    auto* previous = dynamic_cast<Control*>(focused.data());
+    if (Event.gotFocus()) {
+        if (previous == &To) return;
+        focused = &To.self;
+        if (previous && previous->LostFocus) previous->LostFocus();
+        if (focused == &To.self && To.GotFocus) To.GotFocus();
+    } else if (!elsewhere && previous == &To) {
+        focused = nullptr;
+        if (To.LostFocus) To.LostFocus();
+    }
+}
+
+void Form::keyPressEvent(QKeyEvent* Event)
+{
+    if (!PressDialogButton(*Event)) QWidget::keyPressEvent(Event);
+}
+
+void Form::mouseMoveEvent(QMouseEvent* Event)
+{
+    QWidget::mouseMoveEvent(Event);
+    if (MouseMove) MouseMove();
+}
+
+void Form::paintEvent(QPaintEvent* Event)
+{
+    QPainter(this).fillRect(Event->rect(), palette::Ground);
+}
+
+void Form::closeEvent(QCloseEvent* Event)
+{
+    Event->accept();
+    const auto unload = std::exchange(Unload, nullptr);
+    if (unload) unload();
+    if (modalLoop) modalLoop->quit();
+}
+
+}

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "services/forms/Control.h"
+
+#include <QEventLoop>
+#include <QPointer>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace vellarno::forms {
+
+class CommandButton;
+
+/// How the desktop frames a window.
+enum class FormBorder { FixedSingle, FixedDialog, FixedToolWindow };
+
+/// A top-level window of fixed size. Its layout comes from a .ui file (see Designed).
+class Form : public QWidget
+{
+public:
+    std::function<void()> Load;   ///< once, before the window comes up
+    std::function<void()> Unload; ///< once, when the window has been closed
+    std::function<void()> MouseMove;
+    std::function<void(short& KeyAscii)> KeyPress;
+    bool KeyPreview = false; ///< KeyPress sees every key before the control that has the focus
+
+    explicit Form(FormBorder Border);
+    ~Form() override;
+
+    /// Runs Load at the first call, then shows the window; shown already, it comes forward.
+    /// An owned window stays above its owner and goes with it.
+    void Show(Form* Owner = nullptr);
+    /// The same, and returns when the window has been closed; its owner waits meanwhile.
+    void ShowModal(Form& Owner);
+    /// Closes the window. A window other than the first is destroyed once its events are served.
+    void Close() { close(); }
+    bool Loaded() const { return loaded; }
+
+    std::string Caption() const { return windowTitle().toStdString(); }
+    void SetCaption(const std::string& Text) { setWindowTitle(QString::fromStdString(Text)); }
+    /// Height of the framed window in twips, 15 to the pixel.
+    void SetHeight(int Twips);
+    int ScaleWidth() const { return width(); }
+    int ScaleHeight() const { return height(); }
+    /// Opacity from 0 to 255, where the desktop can show it.
+    void SetAlpha(int Alpha);
+    /// Keeps the window above all ordinary ones without hiding or moving it.
+    void SetTopmost(bool OnTop);
+
+    /// The control that has the focus, or would have it if the window were the active one.
+    Control* ActiveControl() const;
+    /// All controls of the form, in no particular order.
+    std::vector<Control*> Controls() const;
+
+    void SetDefaultButton(CommandButton& Button) { defaultButton = &Button; }
+    void SetCancelButton(CommandButton& Button) { cancelButton = &Button; }
+
+    /// The control of that name in the layout. A missing one is a fault of the program.
+    template <class ControlClass>
+    ControlClass& Get(const char* Name) const
+    {
+        if (auto* control = findChild<ControlClass*>(QLatin1String(Name))) return *control;
+        throw std::logic_error(Name);
+    }
+
+protected:
+    void closeEvent(QCloseEvent* Event) override;
+    void keyPressEvent(QKeyEvent* Event) override;
+    void mouseMoveEvent(QMouseEvent* Event) override;
+    void paintEvent(QPaintEvent* Event) override;
+    void showEvent(QShowEvent* Event) override;
+
+private:
+    bool PressDialogButton(const QKeyEvent& Event);
+    void FocusMoved(Control& To, const QFocusEvent& Event);
+    void LoadOnce();
+    void TakeOwner(Form* Owner);
+    void Place();
+
+    const FormBorder border;
+    bool loaded = false;
+    bool topmost = false;
+    QPointer<QWidget> focused; ///< whose GotFocus was the last to run
+    CommandButton* defaultButton = nullptr;
+    CommandButton* cancelButton = nullptr;
+    QEventLoop* modalLoop = nullptr;
+    friend class Control;
+};
+
+/// Tells whether a form that may be closed while events are served is still there.
+class FormWatch
+{
+public:
+    explicit FormWatch(Form& Watched) : form(&Watched) {}
+    bool StillOpen() const { return form && form->isVisible(); }
+
+private:
+    QPointer<Form> form;
+};
+
+/// A form laid out by a class that the .ui compiler made.
+template <class Layout>
+class Designed : public Form
+{
+protected:
+    explicit Designed(FormBorder Border) : Form(Border)
+    {
+        Layout layout;
+        layout.setupUi(this);
+        setFixedSize(size());
+    }
+};
+
+}

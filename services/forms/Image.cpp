@@ -1,0 +1,26 @@
+#include "services/forms/Image.h"
+
+#include <QPainter>
+
+namespace vellarno::forms {
+
+void Image::SetPicturePath(const QString& Path)
+{
+    picture = Path;
+    update();
+}
+
+void Image::SetLook(forms::Look Kind)
+{
+    look = Kind;
+    update();
+}
+
+void Image::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    DrawLook(painter, rect(), look, isEnabled(), false);
+    if (!picture.isEmpty()) DrawPicture(painter, rect(), picture, isEnabled());
+}
+
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "services/forms/Control.h"
+#include "services/forms/Look.h"
+
+#include <QWidget>
+
+namespace vellarno::forms {
+
+/// A picture of the program's resources, or a drawn ground. It never takes the focus.
+class Image : public ControlOf<QWidget>
+{
+    Q_OBJECT
+    Q_PROPERTY(vellarno::forms::Look Look READ GetLook WRITE SetLook)
+    Q_PROPERTY(QString Picture READ PicturePath WRITE SetPicturePath)
+
+public:
+    explicit Image(QWidget* Parent = nullptr) : ControlOf<QWidget>(Parent) {}
+
+    /// Path of the picture among the resources.
+    std::string Picture() const { return picture.toStdString(); }
+    void SetPicture(const std::string& Path) { SetPicturePath(QString::fromStdString(Path)); }
+
+    QString PicturePath() const { return picture; }
+    void SetPicturePath(const QString& Path);
+    forms::Look GetLook() const { return look; }
+    void SetLook(forms::Look Kind);
+
+protected:
+    void paintEvent(QPaintEvent* Event) override;
+    bool ClickedByMouse() const override { return true; }
+
+private:
+    QString picture;
+    forms::Look look = Look::Plain;
+};
+
+}

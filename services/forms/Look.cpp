@@ -1,0 +1,138 @@
+#include "services/forms/Look.h"
+
+#include <QApplication>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QStyleFactory>
+#include <QSvgRenderer>
+#include <QToolTip>
+
+namespace vellarno::forms {
+
+namespace {
+
+constexpr int TextPixels = 11;
+constexpr qreal FieldRadius = 3;
+constexpr qreal PanelRadius = 6;
+constexpr qreal DisabledOpacity = 0.35;
+
+struct Backdrop
+{
+    QBrush Fill;
+    QColor Edge;
+    qreal Radius;
+};
+
+Backdrop GroundOf(const QRect& Area, Look Kind, bool Enabled, bool Focused)
+{
+    using namespace palette;
+    if (Kind == Look::Field)
+        return Enabled ? Backdrop{Field, Focused ? Accent : FieldEdge, FieldRadius}
+                       : Backdrop{DisabledField, DisabledFieldEdge, FieldRadius};
+    if (Kind == Look::Panel) return {Panel, Focused ? Accent : PanelEdge, PanelRadius};
+    if (Kind == Look::Today) return {Today, Qt::transparent, FieldRadius};
+    QLinearGradient gradient(Area.topLeft(), Area.bottomLeft());
+    gradient.setColorAt(0, Kind == Look::Tint ? Qt::transparent : BandTop);
+    gradient.setColorAt(1, BandBottom);
+    return {gradient, Kind == Look::Tint ? Qt::transparent : BandEdge, PanelRadius};
+}
+
+/// Darker towards the middle, by sheets of the same faint grey one inside the other.
+void DrawShadow(QPainter& Painter, const QRect& Area)
+{
+    constexpr int Sheets = 6;
+    Painter.setPen(Qt::NoPen);
+    Painter.setBrush(QColor(0, 0, 0, 16));
+    for (int i = 0; i < Sheets; ++i)
+        Painter.drawRoundedRect(Area.adjusted(i, i, -i, -i), PanelRadius, PanelRadius);
+}
+
+}
+
+QPalette ToolkitPalette()
+{
+    using namespace palette;
+    QPalette colors(palette::Ground);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                            QPalette::ToolTipText, QPalette::PlaceholderText}) {
+        colors.setColor(role, Text);
+        colors.setColor(QPalette::Disabled, role, DisabledText);
+    }
+    colors.setColor(QPalette::Base, Field);
+    colors.setColor(QPalette::Disabled, QPalette::Base, DisabledField);
+    colors.setColor(QPalette::ToolTipBase, Field);
+    colors.setColor(QPalette::Button, Panel);
+    colors.setColor(QPalette::Highlight, Accent);
+    colors.setColor(QPalette::HighlightedText, Field);
+    colors.setColor(QPalette::Disabled, QPalette::Highlight, DisabledFieldEdge);
+    return colors;
+}
+
+void DrawLook(QPainter& Painter, const QRect& Area, Look Kind, bool Enabled, bool Focused)
+{
+    if (Kind == Look::Plain) return;
+    Painter.save();
+    Painter.setRenderHint(QPainter::Antialiasing);
+    if (Kind == Look::Shadow) {
+        DrawShadow(Painter, Area);
+    } else {
+        const auto ground = GroundOf(Area, Kind, Enabled, Focused);
+        Painter.setPen(ground.Edge);
+        Painter.setBrush(ground.Fill);
+        Painter.drawRoundedRect(QRectF(Area).adjusted(0.5, 0.5, -0.5, -0.5), ground.Radius,
+                                ground.Radius);
+    }
+    Painter.restore();
+}
+
+void DrawPicture(QPainter& Painter, const QRectF& Area, const QString& Path, bool Enabled)
+{
+    const qreal scale = Painter.device()->devicePixelRatioF();
+    const QSize pixels = (Area.size() * scale).toSize();
+    const QString key = QStringLiteral("%1@%2x%3").arg(Path).arg(pixels.width()).arg(pixels.height());
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QPixmap(pixels);
+        picture.fill(Qt::transparent);
+        QPainter into(&picture);
+        QSvgRenderer drawing(Path);
+        drawing.setAspectRatioMode(Qt::KeepAspectRatio);
+        drawing.render(&into);
+        into.end();
+        picture.setDevicePixelRatio(scale);
+        QPixmapCache::insert(key, picture);
+    }
+    Painter.setOpacity(Enabled ? 1 : DisabledOpacity);
+    Painter.drawPixmap(Area.topLeft(), picture);
+    Painter.setOpacity(1);
+}
+
+QColor ColorOf(unsigned int Value)
+{
+    switch (Value) {
+    case Black:
+    case ButtonText: return palette::Text;
+    case WindowBackground: return palette::Field;
+    case ActiveBorder: return palette::PanelEdge;
+    default:
+        return QColor(static_cast<int>(Value & 0xFF), static_cast<int>(Value >> 8 & 0xFF),
+                      static_cast<int>(Value >> 16 & 0xFF));
+    }
+}
+
+void SetUpLook()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(ToolkitPalette());
+    QFont font;
+    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial"),
+                      QStringLiteral("Arimo"), QStringLiteral("Helvetica"),
+                      QStringLiteral("Nimbus Sans"), QStringLiteral("sans-serif")});
+    font.setPixelSize(TextPixels);
+    QApplication::setFont(font);
+    QToolTip::setFont(font);
+    QToolTip::setPalette(ToolkitPalette());
+}
+
+}

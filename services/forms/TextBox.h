@@ -1,0 +1,42 @@
+#pragma once
+
+#include "services/forms/Control.h"
+
+#include <QLineEdit>
+#include <QWheelEvent>
+
+namespace vellarno::forms {
+
+/// One line of text. Change comes inside every write that changes the text, typed or not.
+class TextBox : public ControlOf<QLineEdit>
+{
+    Q_OBJECT
+    Q_PROPERTY(int FontSize READ FontSize WRITE SetFontSize)
+
+public:
+    std::function<void()> Change;
+
+    explicit TextBox(QWidget* Parent = nullptr);
+
+    std::string Text() const { return text().toStdString(); }
+    /// A text longer than MaxLength is cut to it.
+    void SetText(const std::string& Text) { setText(QString::fromStdString(Text)); }
+    int MaxLength() const { return maxLength(); }
+    void SetMaxLength(int Characters) { setMaxLength(Characters); }
+    int SelStart() const { return hasSelectedText() ? selectionStart() : cursorPosition(); }
+    int SelLength() const { return selectionLength(); }
+    void Select(int SelStart, int SelLength) { setSelection(SelStart, SelLength); }
+
+protected:
+    void inputMethodEvent(QInputMethodEvent* Event) override;
+    void focusInEvent(QFocusEvent* Event) override;
+    void mousePressEvent(QMouseEvent* Event) override;
+    void mouseMoveEvent(QMouseEvent* Event) override;
+    void mouseReleaseEvent(QMouseEvent* Event) override;
+    void wheelEvent(QWheelEvent* Event) override { Event->ignore(); }
+
+private:
+    bool arriving = false; ///< the button that brought the focus is still down
+};
+
+}
