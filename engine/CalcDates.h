@@ -12,6 +12,8 @@ struct DateFigures
     int Days;       ///< 0 to 30
     int TotalDays;  ///< calendar days
     int TotalWeeks; ///< Mondays after the start up to and including the end
+
+    bool operator==(const DateFigures&) const = default;
 };
 
 /// @param EndDate  not on a day before that of StartDate. Times of day count in nothing.

@@ -12,6 +12,8 @@ struct PeriodFigures
     int Saturdays;
     int Sundays;
     int Holidays; ///< none on a Sunday; none on a Saturday where Saturdays are holidays themselves
+
+    bool operator==(const PeriodFigures&) const = default;
 };
 
 /// Counts as many days as FromDay and ToDay lie apart, from FromDay on upward: the last day isn't

@@ -47,8 +47,8 @@ double AddDays(double x, std::int64_t Number)
 
 double AddMonths(double x, std::int64_t Number)
 {
-    // No step within the valid dates is longer, and a year is a 16-bit number.
-    constexpr std::int64_t AllMonths = 12 * 10000;
+    // No step within the valid dates is longer, and a longer one may overflow a 16-bit year.
+    constexpr std::int64_t AllMonths = 120000;
     const auto Start = CivilDate(x);
     const auto Target =
         Start.year() / Start.month() + months{std::clamp(Number, -AllMonths, AllMonths)};

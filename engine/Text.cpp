@@ -7,7 +7,6 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <utility>
 
 namespace vellarno {
 
@@ -46,12 +45,11 @@ std::optional<std::int16_t> TakeNumber(std::string_view& Text)
 
 std::string Digits(double Value, std::size_t Least, bool Grouped)
 {
-    // Plain digits of the largest double, with a sign.
-    std::array<char, std::numeric_limits<double>::max_exponent10 + 3> Buffer{};
+    std::array<char, std::numeric_limits<double>::max_exponent10 + 1> Buffer{};
     const double Whole = std::round(std::abs(Value));
-    const char* const End =
+    char* const End =
         std::to_chars(Buffer.begin(), Buffer.end(), Whole, std::chars_format::fixed, 0).ptr;
-    std::string Text(std::as_const(Buffer).begin(), End);
+    std::string Text(Buffer.data(), End);
     if (Text.size() < Least) Text.insert(0, Least - Text.size(), '0');
     for (std::size_t Right = 3; Grouped && Right < Text.size(); Right += 4)
         Text.insert(Text.size() - Right, 1, '.');
