@@ -1,2 +1,98 @@
-#include "services/forms/Form.h"
+#include "mainwindow/frmMain.h"
+
+#include "engine/Text.h"
+#include "mainwindow/Segments.h"
+#include "resources/Resources.h"
+#include "services/App.h"
+#include "services/GenericBas.h"
+#include "services/Platform.h"
+#include "services/PrivateFile.h"
+#include "services/forms/Application.h"
 #include "ui_frmMain.h"
+
+namespace vellarno {
+
+namespace {
+
+constexpr int WindowHeight = 5085; // twips, with the frame
+constexpr int ClockInterval = 400; // milliseconds
+
+}
+
+frmMain::frmMain()
+    : Designed(forms::FormBorder::FixedSingle), DateField(txtData, DateSegments),
+      TimeField(txtTime, TimeSegments)
+{
+    Connect();
+}
+
+void frmMain::Connect()
+{
+    using namespace forms;
+    KeyPreview = true;
+    Load = [this] { Form_Load(); };
+    Unload = [this] { Form_Unload(); };
+    KeyPress = [this](short& KeyAscii) { Form_KeyPress(KeyAscii); };
+    Form::MouseMove = [this] { CloseBalloons(); };
+    imgBorder.MouseMove = [this] { CloseBalloons(); };
+
+    cmdCalcola.Click = [this] { cmdCalcola_Click(); };
+    optDataTime.Connect(&OptionButton::Click, this, &frmMain::optDataTime_Click);
+    chkDayInt.Click = [this] { chkDayInt_Click(); };
+    chkWorkSat.Click = [this] { chkWorkSat_Click(); };
+    lblChekBox.Connect(&Label::Click, this, &frmMain::lblChekBox_Click);
+
+    txtData.Connect(&TextBox::KeyPress, this, &frmMain::Digits_KeyPress);
+    txtData.Connect(&TextBox::Change, this, &frmMain::txtData_Change);
+    txtData.Connect(&TextBox::GotFocus, this, &frmMain::txtData_GotFocus);
+    txtData.Connect(&TextBox::LostFocus, this, &frmMain::txtData_LostFocus);
+    txtTime.Connect(&TextBox::KeyPress, this, &frmMain::Digits_KeyPress);
+    txtTime.Connect(&TextBox::Change, this, &frmMain::txtTime_Change);
+    txtTime.Connect(&TextBox::GotFocus, this, &frmMain::txtTime_GotFocus);
+    txtTime.Connect(&TextBox::LostFocus, this, &frmMain::txtTime_LostFocus);
+
+    cmdNowData.Connect(&CommandButton::Click, this, &frmMain::cmdNowData_Click);
+    hscDataScroll.Change = [this] { hscDataScroll_Change(); };
+    txtCalMeseAnno.GotFocus = [this] { txtCalMeseAnno_GotFocus(); };
+    GIORNO.Connect(&Label::MouseDown, this, &frmMain::GIORNO_MouseDown);
+    GIORNO.Connect(&Label::MouseUp, this, &frmMain::GIORNO_MouseUp);
+    GIORNO.Connect(&Label::Click, this, &frmMain::GIORNO_Click);
+
+    Timer1.Tick = [this] { Timer1_Timer(); };
+    cmdNowTime.Connect(&CommandButton::Click, this, &frmMain::cmdNowTime_Click);
+    lblTotali.Connect(&Label::MouseMove, this, &frmMain::lblTotali_MouseMove);
+    picToolBarra.Connect(&PictureBox::Click, this, &frmMain::picToolBarra_Click);
+    imgOnTop.Click = [this] { imgOnTop_Click(); };
+}
+
+void frmMain::Form_Load()
+{
+    SetHeight(WindowHeight);
+    InitStatusStrip();
+    SetHandCursor(*this);
+    imgOnTop.SetMousePointer(forms::CustomPointer);
+    imgOnTop.SetMouseIcon(resources::HandCursor);
+    imgOnTop.SetPicture(resources::Icon(201));
+    BalloonTip.emplace();
+    BalloonTip->SetStyle(1);
+    BalloonTip->SetIcon(1);
+    BalloonTip->SetDelayTime(20);
+    ShowCalendar(-1);
+    imgGradiente.Move(0, -1, picOption.Width() - 1, picOption.Height() - 1);
+    optDataTime[0].SetValue(true);
+    imgBorder.SetHeight(107);
+    imgBorder.SetTop(115);
+    SetCaption(std::string(App::Title) + ' ' + CStr(App::Major) + '.' + CStr(App::Minor));
+    Timer1.Start(ClockInterval);
+}
+
+void frmMain::Form_Unload()
+{
+    DeletePrivateFile(GetTempDirectory() + HelpFileName);
+    StatusStrip.reset();
+    BalloonTip.reset();
+    UnloadAll();
+    forms::Application::Quit();
+}
+
+}

@@ -9,6 +9,7 @@
 #include <sys/mman.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace vellarno {
 

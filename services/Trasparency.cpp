@@ -23,10 +23,10 @@ bool IsLayeredCapable()
 void FadeInForm(forms::Form& Form)
 {
     if (!IsLayeredCapable()) return;
-    const forms::FormWatch watch(Form);
+    const forms::FormRef form(Form);
     Form.SetAlpha(FirstAlpha);
     Form.Show();
-    for (int alpha = FirstAlpha; alpha <= Opaque && watch.StillOpen(); ++alpha) {
+    for (int alpha = FirstAlpha; alpha <= Opaque && form.Open(); ++alpha) {
         Form.SetAlpha(alpha);
         std::this_thread::sleep_for(StepTime);
         forms::DoEvents();

@@ -54,8 +54,8 @@ public:
     }
 
     /// Gives one event of all elements to a member function that takes the index first.
-    template <class Owner, class Event, class... Arguments>
-    void Connect(Event ControlClass::*Which, Owner* Object, void (Owner::*Handler)(int, Arguments...))
+    template <class Declaring, class Event, class Owner, class... Arguments>
+    void Connect(Event Declaring::*Which, Owner* Object, void (Owner::*Handler)(int, Arguments...))
     {
         for (const auto& [index, control] : elements)
             control->*Which = [index = index, Object, Handler](Arguments... arguments) {

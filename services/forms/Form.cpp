@@ -50,6 +50,12 @@ void Form::LoadOnce()
     if (load) load();
 }
 
+void Form::UnloadAll()
+{
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible()) window->close();
+}
+
 void Form::Place()
 {
     const QRect around = border == FormBorder::FixedToolWindow && parentWidget()
@@ -71,8 +77,12 @@ void Form::Show(Form* Owner)
     const QPointer<Form> alive = this;
     LoadOnce();
     if (!alive) return; // closed while it loaded
-    if (!isVisible()) Place();
-    show();
+    if (!isVisible()) {
+        Place();
+        show();
+        return;
+    }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
 }

@@ -36,7 +36,9 @@ public:
     void ShowModal(Form& Owner);
     /// Closes the window. A window other than the first is destroyed once its events are served.
     void Close() { close(); }
-    bool Loaded() const { return loaded; }
+    /// Closes every window of the program, message boxes too.
+    static void UnloadAll();
+    bool Visible() const { return isVisible(); }
 
     std::string Caption() const { return windowTitle().toStdString(); }
     void SetCaption(const std::string& Text) { setWindowTitle(QString::fromStdString(Text)); }
@@ -89,15 +91,21 @@ private:
     friend class Control;
 };
 
-/// Tells whether a form that may be closed while events are served is still there.
-class FormWatch
+/// Refers to a form that may be closed, and then destroyed, while events are served.
+template <class FormClass = Form>
+class FormRef
 {
 public:
-    explicit FormWatch(Form& Watched) : form(&Watched) {}
-    bool StillOpen() const { return form && form->isVisible(); }
+    FormRef() = default;
+    explicit FormRef(FormClass& Referred) : form(&Referred) {}
+
+    void Set(FormClass& Referred) { form = &Referred; }
+    /// Whether the window is still there and on screen.
+    bool Open() const { return form && form->isVisible(); }
+    FormClass* operator->() const { return form; }
 
 private:
-    QPointer<Form> form;
+    QPointer<FormClass> form;
 };
 
 /// A form laid out by a class that the .ui compiler made.

@@ -1,0 +1,162 @@
+#pragma once
+
+#include "engine/ResultLabels.h"
+#include "minicalc/frmMiniCalc.h"
+#include "services/CTooltip.h"
+#include "services/SegmentedField.h"
+#include "services/StatusBar.h"
+#include "services/forms/CheckBox.h"
+#include "services/forms/CommandButton.h"
+#include "services/forms/ControlArray.h"
+#include "services/forms/Form.h"
+#include "services/forms/Image.h"
+#include "services/forms/Label.h"
+#include "services/forms/OptionButton.h"
+#include "services/forms/PictureBox.h"
+#include "services/forms/ScrollBar.h"
+#include "services/forms/TextBox.h"
+#include "services/forms/Timer.h"
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace Ui {
+class frmMain;
+}
+
+namespace vellarno {
+
+/// The main window: two dates, two clock times or two moments are typed in and compared. The mode
+/// is the selected option; results stand in the labels alone.
+class frmMain : public forms::Designed<Ui::frmMain>, private ResultLabels
+{
+public:
+    frmMain();
+
+private:
+    // The entry rows
+    forms::ControlArray<forms::PictureBox> PicData{*this, "PicData"};
+    forms::ControlArray<forms::TextBox> txtData{*this, "txtData"};
+    forms::ControlArray<forms::TextBox> txtTime{*this, "txtTime"};
+    forms::ControlArray<forms::Label> lblSeparatore{*this, "lblSeparatore"};
+    forms::ControlArray<forms::CommandButton> cmdNowData{*this, "cmdNowData"};
+    forms::ControlArray<forms::CommandButton> cmdNowTime{*this, "cmdNowTime"};
+
+    // The results and their captions
+    forms::ControlArray<forms::Label> lblDati{*this, "lblDati"};
+    forms::ControlArray<forms::Label> lblTotali{*this, "lblTotali"};
+    forms::ControlArray<forms::Label> lblWeekDay{*this, "lblWeekDay"};
+    forms::ControlArray<forms::Label> lblLabel{*this, "lblLabel"};
+    forms::Image& imgBorder = Get<forms::Image>("imgBorder");
+
+    // The choices
+    forms::CheckBox& chkDayInt = Get<forms::CheckBox>("chkDayInt");
+    forms::CheckBox& chkWorkSat = Get<forms::CheckBox>("chkWorkSat");
+    forms::ControlArray<forms::Label> lblChekBox{*this, "lblChekBox"};
+    forms::PictureBox& picOption = Get<forms::PictureBox>("picOption");
+    forms::Image& imgGradiente = Get<forms::Image>("imgGradiente");
+    forms::ControlArray<forms::Image> imgTipoCalcolo{*this, "imgTipoCalcolo"};
+    forms::ControlArray<forms::OptionButton> optDataTime{*this, "optDataTime"};
+    forms::CommandButton& cmdCalcola = Get<forms::CommandButton>("cmdCalcola");
+    forms::Image& imgOnTop = Get<forms::Image>("imgOnTop");
+
+    // The calendar
+    forms::PictureBox& picCalendario = Get<forms::PictureBox>("picCalendario");
+    forms::Image& shpShadow = Get<forms::Image>("shpShadow");
+    forms::ScrollBar& hscDataScroll = Get<forms::ScrollBar>("hscDataScroll");
+    forms::TextBox& txtCalMeseAnno = Get<forms::TextBox>("txtCalMeseAnno");
+    forms::Image& shpOggi = Get<forms::Image>("shpOggi");
+    forms::ControlArray<forms::Label> GIORNO{*this, "GIORNO"};
+
+    // The status strip
+    forms::ControlArray<forms::PictureBox> picBarra{*this, "picBarra"};
+    forms::ControlArray<forms::PictureBox> picToolBarra{*this, "picToolBarra"};
+    forms::Timer Timer1;
+
+    // What the window remembers beyond its controls
+    bool SaturdayIsHoliday = false;
+    int CalMese = 0;      ///< month on show in the calendar, 1 to 12
+    int CalAnno = 0;      ///< year on show in the calendar
+    int CalCampo = 0;     ///< the entry that the calendar serves: 0 the start, 1 the end
+    int UltimoGiorno = 0; ///< day of the month of the strip's last full update
+    std::array<bool, 9> BalloonShown{};
+    std::optional<StatusBar> StatusStrip;
+    std::optional<CTooltip> BalloonTip;
+    forms::FormRef<frmMiniCalc> Sums;
+    SegmentedField DateField;
+    SegmentedField TimeField;
+
+    void Connect();
+
+    // Start and end
+    void Form_Load();
+    void Form_Unload();
+
+    // Calculation
+    void cmdCalcola_Click();
+    void CompareTimes();
+    void CompareMoments();
+    void CompareDates();
+    double TypedDate(int First) const;
+    double TypedTime(int First) const;
+    void ShowWeekdays(double StartDate, double EndDate);
+    bool HasAllFields(int Mode) const;
+    void ShowIncompleteData();
+    bool ValidateDates();
+    void ClearResults();
+    void Form_KeyPress(short& KeyAscii);
+    void SetDati(int Index, const std::string& Caption) override;
+    void SetTotali(int Index, const std::string& Caption) override;
+    void SetHourglass(bool Shown) override;
+
+    // Modes
+    void optDataTime_Click(int Index);
+    void DisableAll();
+    void EnableMode(int Index);
+    void chkDayInt_Click();
+    void chkWorkSat_Click();
+    void lblChekBox_Click(int Index);
+
+    // Entry fields
+    void Digits_KeyPress(int Index, short& KeyAscii);
+    void txtData_Change(int Index);
+    void txtData_GotFocus(int Index);
+    void txtData_LostFocus(int Index);
+    void txtTime_Change(int Index);
+    void txtTime_GotFocus(int Index);
+    void txtTime_LostFocus(int Index);
+
+    // Calendar
+    void cmdNowData_Click(int Index);
+    void ShowCalendar(int Index);
+    void HideCalendar();
+    void hscDataScroll_Change();
+    void txtCalMeseAnno_GotFocus();
+    void FillCalendar(int Mese, int Anno);
+    void FillDay(forms::Label& Cell, int Serial, int Mese, int MondayNumber);
+    void GIORNO_MouseDown(int Index);
+    void GIORNO_MouseUp(int Index);
+    void GIORNO_Click(int Index);
+
+    // Status strip and clock
+    void InitStatusStrip();
+    void UpdateStatusStrip();
+    void PrintCentred(forms::PictureBox& Panel, const std::string& Text);
+    void Timer1_Timer();
+    void cmdNowTime_Click(int Index);
+
+    // Balloons
+    void lblTotali_MouseMove(int Index);
+    void CloseBalloons();
+
+    // Toolbar, pin and help
+    void picToolBarra_Click(int Index);
+    void imgOnTop_Click();
+    void ShowHelp();
+};
+
+/// True exactly for the months 1 to 12 of the years 1000 to 2100.
+bool IsCorrect(int Mese, int Anno);
+
+}

@@ -1,0 +1,113 @@
+#include "mainwindow/frmMain.h"
+
+#include "services/GenericBas.h"
+
+namespace vellarno {
+
+namespace {
+
+enum Mode { Times, Moments, Dates };
+
+constexpr int ClickSound = 202;
+
+struct PanelPlace
+{
+    int Top, Height;
+};
+
+/// Where the light panel lies behind the active section, by mode.
+constexpr PanelPlace Panels[] = {{115, 107}, {10, 207}, {10, 107}};
+
+/// Each box's own change handling runs while it can still be used, and answers with its beep.
+void EmptyAndDisable(const forms::ControlArray<forms::TextBox>& Boxes)
+{
+    for (auto& box : Boxes) {
+        box.SetText("");
+        box.SetEnabled(false);
+    }
+}
+
+}
+
+void frmMain::optDataTime_Click(int Index)
+{
+    HideCalendar();
+    DisableAll();
+    for (auto& picture : imgTipoCalcolo) picture.SetVisible(false);
+    imgTipoCalcolo[Index].SetVisible(true);
+    EnableMode(Index);
+    ClearResults();
+}
+
+void frmMain::DisableAll()
+{
+    lblSeparatore.SetEnabled(0, 7, false);
+    lblLabel.SetEnabled(0, 20, false);
+    lblTotali.SetEnabled(0, 8, false);
+    cmdNowData.SetEnabled(0, 1, false);
+    cmdNowTime.SetEnabled(0, 1, false);
+    EmptyAndDisable(txtData);
+    EmptyAndDisable(txtTime);
+    lblChekBox.SetEnabled(0, 1, false);
+}
+
+void frmMain::EnableMode(int Index)
+{
+    const bool dates = Index != Times;
+    const bool times = Index != Dates;
+    if (times) PlayResSound(ClickSound);
+    cmdNowTime.SetEnabled(0, 1, times);
+    cmdNowData.SetEnabled(0, 1, dates);
+    lblChekBox.SetEnabled(0, 0, !times);
+    lblChekBox.SetEnabled(1, 1, dates);
+    lblLabel.SetEnabled(10, 20, dates);
+    lblLabel.SetEnabled(0, 7, times);
+    lblSeparatore.SetEnabled(0, 3, dates && times);
+    lblSeparatore.SetEnabled(4, 7, times);
+    txtTime.SetEnabled(0, 5, times);
+    txtData.SetEnabled(0, 5, dates);
+    lblTotali.SetEnabled(0, 4, dates);
+    lblTotali.SetEnabled(5, 5, true);
+    lblTotali.SetEnabled(6, 8, times);
+    if (!times)
+        for (auto& box : txtTime) box.SetText("00");
+    (dates ? txtData : txtTime)[0].SetFocus();
+    chkDayInt.SetEnabled(!times);
+    if (!times) chkDayInt_Click();
+    chkWorkSat.SetEnabled(dates);
+    imgBorder.SetHeight(Panels[Index].Height);
+    imgBorder.SetTop(Panels[Index].Top);
+}
+
+void frmMain::chkDayInt_Click()
+{
+    PlayResSound(ClickSound);
+    txtTime[3].SetText(chkDayInt.Value() == 1 ? "24" : "00");
+    if (HasAllFields(Dates))
+        cmdCalcola_Click();
+    else
+        ClearResults();
+}
+
+void frmMain::chkWorkSat_Click()
+{
+    PlayResSound(ClickSound);
+    SaturdayIsHoliday = chkWorkSat.Value() == 1;
+    const unsigned int color = SaturdayIsHoliday ? forms::PureRed : forms::Black;
+    lblTotali[3].SetForeColor(color);
+    lblLabel[18].SetForeColor(color);
+    if (HasAllFields(Moments) && HasAllFields(Dates))
+        cmdCalcola_Click();
+    else
+        ClearResults();
+}
+
+// The captions are labels of their own; a click on one means its box.
+void frmMain::lblChekBox_Click(int Index)
+{
+    forms::CheckBox& box = Index == 0 ? chkDayInt : chkWorkSat;
+    box.SetFocus();
+    box.SetValue(1 - box.Value());
+}
+
+}

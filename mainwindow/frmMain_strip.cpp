@@ -1,0 +1,114 @@
+#include "mainwindow/frmMain.h"
+
+#include "engine/Clock.h"
+#include "engine/DateTime.h"
+#include "engine/Text.h"
+#include "resources/Resources.h"
+
+#include <cstdlib>
+
+namespace vellarno {
+
+namespace {
+
+constexpr short RightEdges[] = {142, 200, 235, 270, 305, 340, 375, 400, 425, 450, -1};
+
+/// The boxes of the strip's parts from left to right.
+constexpr int Panels[] = {5, 6, 0, 1, 2, 3, 4};
+constexpr int Icons[] = {3, 0, 2, 1};
+
+constexpr int DatePanel = 5;
+constexpr int ClockPanel = 6;
+
+struct YearFigure
+{
+    std::string Text;
+    const char* Meaning;
+};
+
+std::string Distance(const char* Interval, double From, double To, int First, int More = 0)
+{
+    return CStr(static_cast<int>(std::abs(DateDiff(Interval, From, To, First))) + More);
+}
+
+/// What the panels 0 to 4 show on a day. Weeks gone are the Tuesdays since the 1st of January,
+/// weeks left the Sundays still to come; days gone count today, days left don't.
+std::array<YearFigure, 5> FiguresOf(double Today)
+{
+    const double first = DateSerial(Year(Today), 1, 1);
+    const double last = DateSerial(Year(Today), 12, 31);
+    return {{{CStr(DatePart("q", Today)) + "°", "Trimestre corrente"},
+             {Distance("ww", first, Today, 3), "Settimane trascorse da inizio anno"},
+             {Distance("ww", Today, last, 1), "Settimane mancanti a fine anno"},
+             {Distance("d", first, Today, 1, 1), "Giorni trascorsi da inizio anno"},
+             {Distance("d", Today, last, 1), "Giorni mancanti a fine anno"}}};
+}
+
+}
+
+void frmMain::InitStatusStrip()
+{
+    picBarra[0].SetMousePointer(forms::HelpPointer);
+    for (int index = 1; index <= ClockPanel; ++index) picBarra.Load(index).SetVisible(true);
+    StatusStrip.emplace();
+    StatusStrip->Create(*this);
+    StatusStrip->SetParts(std::size(RightEdges), RightEdges);
+    short part = 0;
+    for (const int index : Panels) StatusStrip->CopyObj(part++, picBarra[index]);
+    for (const int index : Icons) StatusStrip->CopyObj(part++, picToolBarra[index]);
+}
+
+void frmMain::Timer1_Timer()
+{
+    if (Day(Date()) != UltimoGiorno) {
+        UltimoGiorno = Day(Date());
+        UpdateStatusStrip();
+    }
+    picBarra[ClockPanel].Cls();
+    const std::string time = Format(Now(), "hh.mm.ss");
+    PrintCentred(picBarra[ClockPanel], time);
+    picBarra[ClockPanel].SetAccessibleName("Ora: " + time);
+}
+
+void frmMain::UpdateStatusStrip()
+{
+    for (auto& panel : picBarra) {
+        panel.Cls();
+        panel.SetCurrentY(1);
+    }
+    picBarra[DatePanel].SetMousePointer(forms::DefaultPointer);
+    picBarra[ClockPanel].SetMousePointer(forms::DefaultPointer);
+    const std::string today = Format(Now(), " dddd  dd mmm yyyy");
+    PrintCentred(picBarra[DatePanel], today);
+    picBarra[DatePanel].SetAccessibleName("Data di oggi:" + today);
+    int index = 0;
+    for (const auto& [text, meaning] : FiguresOf(Date())) {
+        forms::PictureBox& panel = picBarra[index++];
+        panel.SetToolTipText(meaning);
+        panel.SetAccessibleName(std::string(meaning) + ": " + text);
+        PrintCentred(panel, text);
+    }
+    for (auto& icon : picToolBarra) {
+        icon.SetMousePointer(forms::CustomPointer);
+        icon.SetMouseIcon(resources::HandCursor);
+    }
+}
+
+void frmMain::PrintCentred(forms::PictureBox& Panel, const std::string& Text)
+{
+    Panel.SetCurrentX(CLng((Panel.Width() - Panel.TextWidth(Text)) / 2.0));
+    Panel.Print(Text);
+}
+
+void frmMain::cmdNowTime_Click(int Index)
+{
+    HideCalendar();
+    const double now = Now();
+    ClearResults();
+    const int first = Index == 1 ? 3 : 0;
+    txtTime[first].SetText(Format(Hour(now), "00"));
+    txtTime[first + 1].SetText(Format(Minute(now), "00"));
+    txtTime[first + 2].SetText(Format(Second(now), "00"));
+}
+
+}

@@ -1,0 +1,46 @@
+#include "mainwindow/frmMain.h"
+
+#include "engine/Text.h"
+#include "services/App.h"
+#include "services/Platform.h"
+
+namespace vellarno {
+
+namespace {
+
+constexpr double FirstYear = 1000;
+
+struct DateGroup
+{
+    int First; ///< index of the day; month and year follow
+    const char* Name;
+};
+
+constexpr DateGroup Groups[] = {{0, "'Data inizio'"}, {3, "'Data fine'"}};
+
+void Refuse(const char* Name, const std::string& Fault)
+{
+    System().MsgBox(std::string("Nella casella ") + Name + Fault +
+                        "\r\nVerificare i dati e riprovare.",
+                    forms::Information, App::Title);
+}
+
+}
+
+bool frmMain::ValidateDates()
+{
+    for (const auto& [first, name] : Groups) {
+        const std::string year = txtData[first + 2].Text();
+        if (!IsDate(txtData[first].Text() + '/' + txtData[first + 1].Text() + '/' + year)) {
+            Refuse(name, " è stata immessa una data non valida!");
+            return false;
+        }
+        if (CDbl(year).value_or(0) < FirstYear) {
+            Refuse(name, " è stata immesso un anno non valido!");
+            return false;
+        }
+    }
+    return true;
+}
+
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace vellarno {
+
+/// The help page's file, of which the user's folder holds one at most.
+inline constexpr const char* HelpFileName = "HelpVellarno.htm";
+
+/// Writes a file that only the user can read, in place of one that is there. Never through a link
+/// and never into anything but an ordinary file.
+/// @return false if it could not be written whole.
+bool WritePrivateFile(const std::string& Path, const std::string& Bytes);
+
+/// Deletes an ordinary file; anything else of that name, and a file that can't go, is left alone.
+void DeletePrivateFile(const std::string& Path);
+
+}

@@ -1,0 +1,213 @@
+#include "tests/mainwindow/MainWindow.h"
+
+namespace vellarno::test {
+namespace {
+
+class Fields : public MainWindow
+{
+protected:
+    /// Shows a result that the next change of a field has to clear.
+    void Calculate()
+    {
+        EnterDates("01012005", "31122005");
+        Click(cmdCalcola);
+        ASSERT_FALSE(ResultsEmpty());
+    }
+};
+
+TEST_F(Fields, TypedInTheModeOfDates)
+{
+    struct Case
+    {
+        int Box;
+        const char *Keys, *Text, *Focus;
+        int Beeps;
+    };
+    Choose(Dates);
+    for (const Case& c : {
+             Case{0, "31", "31", "data 1", 0},     Case{0, "32", "", "data 0", 2},
+             Case{0, "99", "", "data 0", 2},       Case{0, "00", "", "data 0", 2},
+             Case{0, "0", "0", "data 0", 0},       Case{0, "a+ 1-", "1", "data 0", 0},
+             Case{1, "12", "12", "data 2", 0},     Case{1, "13", "", "data 1", 2},
+             Case{1, "00", "", "data 1", 2},       Case{2, "2100", "2100", "data 3", 0},
+             Case{2, "2101", "", "data 2", 2},     Case{2, "0999", "0999", "data 3", 0},
+             Case{2, "0000", "0000", "data 3", 0}, Case{4, "07", "07", "data 5", 0},
+             Case{5, "2100", "2100", "data 5", 0}, Case{5, "9", "9", "data 5", 0},
+         }) {
+        Choose(Moments);
+        Choose(Dates);
+        txtData[c.Box].SetFocus();
+        EXPECT_EQ(BeepsOf([&] { Type(form, c.Keys); }), c.Beeps) << c.Box << ' ' << c.Keys;
+        EXPECT_EQ(txtData[c.Box].Text(), c.Text) << c.Box << ' ' << c.Keys;
+        EXPECT_EQ(Focus(), c.Focus) << c.Box << ' ' << c.Keys;
+    }
+}
+
+TEST_F(Fields, TypedInTheModeOfTimes)
+{
+    struct Case
+    {
+        int Box;
+        const char *Keys, *Text, *Focus;
+        int Beeps;
+    };
+    for (const Case& c : {
+             Case{0, "23", "23", "time 1", 0},     Case{0, "24", "", "time 0", 2},
+             Case{0, "00", "00", "time 1", 0},     Case{1, "60", "", "time 1", 2},
+             Case{2, "59", "59", "time 3", 0},     Case{3, "24", "", "time 3", 2},
+             Case{4, "59", "59", "time 5", 0},     Case{5, "123", "", "time 5", 2},
+             Case{5, "059", "059", "time 5", 0},   Case{5, "0059", "0059", "time 5", 0},
+         }) {
+        Choose(Dates);
+        Choose(Times);
+        txtTime[c.Box].SetFocus();
+        EXPECT_EQ(BeepsOf([&] { Type(form, c.Keys); }), c.Beeps) << c.Box << ' ' << c.Keys;
+        EXPECT_EQ(txtTime[c.Box].Text(), c.Text) << c.Box << ' ' << c.Keys;
+        EXPECT_EQ(Focus(), c.Focus) << c.Box << ' ' << c.Keys;
+    }
+}
+
+TEST_F(Fields, SixteenDigitsInARow)
+{
+    Choose(Dates);
+    Type(form, "1503200931122010");
+    EXPECT_EQ(Texts(txtData), "15 03 2009 31 12 2010");
+    EXPECT_EQ(Focus(), "data 5");
+    EXPECT_EQ(desktop.Beeps, 0);
+    EXPECT_TRUE(ResultsEmpty());
+}
+
+TEST_F(Fields, ArrivalAndDepartureFillALoneDigit)
+{
+    Choose(Dates);
+    Type(form, "5");
+    Press(form, Qt::Key_Tab);
+    EXPECT_EQ(txtData[0].Text(), "05");
+    EXPECT_EQ(Focus(), "data 1");
+    Type(form, "3");
+    Press(form, Qt::Key_Backtab, Qt::ShiftModifier); // a month that was filled leads to the year
+    EXPECT_EQ(txtData[1].Text(), "03");
+    EXPECT_EQ(Focus(), "data 2");
+    Type(form, "0");
+    Click(cmdCalcola);
+    EXPECT_EQ(txtData[2].Text(), "00");
+
+    Choose(Times);
+    Choose(Dates);
+    Type(form, "5");
+    Click(txtData[2]); // only the month fills the day
+    EXPECT_EQ(txtData[0].Text(), "5");
+    EXPECT_EQ(Focus(), "data 2");
+    txtData[0].SetText("0");
+    EXPECT_EQ(BeepsOf([&] { Click(txtData[1]); }), 2);
+    EXPECT_EQ(txtData[0].Text(), "");
+    Type(form, "4");
+    Click(cmdCalcola); // the click counts, the focus goes to the year all the same
+    EXPECT_EQ(txtData[1].Text(), "04");
+    EXPECT_EQ(Focus(), "data 2");
+    EXPECT_EQ(desktop.Messages.size(), 2u);
+}
+
+TEST_F(Fields, DepartureFillsATimeInEveryDirection)
+{
+    Type(form, "7");
+    Press(form, Qt::Key_Tab);
+    EXPECT_EQ(txtTime[0].Text(), "07");
+    EXPECT_EQ(Focus(), "time 1");
+    Type(form, "8");
+    Press(form, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(txtTime[1].Text(), "08");
+    EXPECT_EQ(Focus(), "time 2");
+    Click(txtTime[5]);
+    Type(form, "9");
+    Click(txtTime[0]);
+    EXPECT_EQ(txtTime[5].Text(), "09");
+    EXPECT_EQ(Focus(), "time 0");
+}
+
+TEST_F(Fields, ArrivalSelectsTheWholeText)
+{
+    EnterTimes("112233", "");
+    Click(txtTime[1]);
+    EXPECT_EQ(txtTime[1].SelStart(), 0);
+    EXPECT_EQ(txtTime[1].SelLength(), 2);
+    Type(form, "4");
+    EXPECT_EQ(txtTime[1].Text(), "4");
+}
+
+TEST_F(Fields, EmptyingByHandBeepsOnceAndAnEqualTextNever)
+{
+    Choose(Dates);
+    Type(form, "5");
+    EXPECT_EQ(BeepsOf([&] { Press(form, Qt::Key_Backspace); }), 1);
+    EXPECT_EQ(BeepsOf([&] { txtData[0].SetText(""); }), 0);
+    Choose(Times);
+    EXPECT_EQ(BeepsOf([&] {
+                  Enter(txtTime[1], "5");
+                  Press(form, Qt::Key_Backspace);
+              }),
+              1);
+}
+
+TEST_F(Fields, TextThatComesPastTheKeys)
+{
+    Choose(Dates);
+    struct Case
+    {
+        const char *Text, *Left;
+        int Beeps;
+    };
+    for (const Case& c : {Case{"7", "7", 0}, Case{"-1", "", 2}, Case{"1,", "", 2},
+                          Case{"45", "", 2}, Case{"¹²", "", 2}, Case{"2\n", "", 2}}) {
+        const auto paste = [&] { Paste(form, c.Text); };
+        const auto drop = [&] { Drop(txtData[0], c.Text); };
+        const auto middle = [&] { PasteByMiddleButton(txtData[0], c.Text); };
+        for (const std::function<void()>& way : {std::function<void()>(paste), {drop}, {middle}}) {
+            txtData[0].SetText("");
+            txtData[0].SetFocus();
+            const int beeps = BeepsOf(way);
+            if (beeps == 0 && txtData[0].Text().empty()) continue; // no such way on this desktop
+            EXPECT_EQ(beeps, c.Beeps) << c.Text;
+            EXPECT_EQ(txtData[0].Text(), c.Left) << c.Text;
+        }
+    }
+    txtData[0].SetText("");
+    EXPECT_EQ(BeepsOf([&] { Commit(txtData[0], "a1b"); }), 0);
+    EXPECT_EQ(txtData[0].Text(), "1");
+    EXPECT_EQ(Texts(txtTime), "00 00 00 00 00 00");
+}
+
+TEST_F(Fields, EveryChangeClearsTheResults)
+{
+    Choose(Dates);
+    const std::function<void()> changes[] = {[&] { Enter(txtData[0], "2"); },
+                                             [&] { txtData[5].SetText("2006"); },
+                                             [&] {
+                                                 txtData[3].SetFocus();
+                                                 Press(form, Qt::Key_Backspace);
+                                             },
+                                             [&] { txtTime[3].SetText("24"); }};
+    for (const auto& change : changes) {
+        Calculate();
+        change();
+        EXPECT_TRUE(ResultsEmpty());
+    }
+    EXPECT_EQ(txtTime[3].Text(), "24");
+    Calculate();
+    Press(form, Qt::Key_Tab);
+    txtData[0].SetText(txtData[0].Text());
+    EXPECT_FALSE(ResultsEmpty());
+}
+
+TEST_F(Fields, TheCurrentTimeGoesIntoARow)
+{
+    SetNow(2026, 11, 22, 7, 5, 9);
+    Click(cmdNowTime[1]);
+    EXPECT_EQ(Focus(), "time 5");
+    Click(cmdNowTime[0]);
+    EXPECT_EQ(Focus(), "time 3");
+    EXPECT_EQ(Texts(txtTime), "07 05 09 07 05 09");
+}
+
+}
+}
