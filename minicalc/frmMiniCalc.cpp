@@ -1,0 +1,173 @@
+#include "minicalc/frmMiniCalc.h"
+
+#include "minicalc/Accumulators.h"
+#include "services/GenericBas.h"
+#include "services/Trasparency.h"
+#include "ui_frmMiniCalc.h"
+
+#include <array>
+#include <string>
+
+namespace vellarno {
+
+namespace {
+
+constexpr int ClickSound = 202;
+constexpr int TimeSide = 0;
+constexpr int DateSide = 1;
+/// The units' help texts follow those of the two formats.
+constexpr int FirstHelpOfUnits = 2;
+
+constexpr const char* HelpTitles[] = {
+    "SOMME E SOTTRAZIONI TRA ORE MINUTI E SECONDI",
+    "SOMME E SOTTRAZIONI TRA DATA E GIORNI / SETTIMANE / MESI / TRIMESTRI"};
+
+constexpr std::array HelpTexts = {
+    "Digitare ore, minuti e secondi che si vogliono sommare o sottrarre all'orario iniziale,\r\n"
+    " e premere il pulsante uguale",
+    "Digitare ore, minuti e secondi (minuti e secondi anche in numero superiore a 60) che si "
+    "vogliono sommare o sottrarre all'orario iniziale, e premere il pulsante uguale",
+    "Digitare i giorni che si vogliono sommare o sottrarre alla data iniziale,\r\n"
+    "e premere il pulsante uguale",
+    "Digitare le settimane che si vogliono sommare o sottrarre alla data iniziale,\r\n"
+    " e premere il pulsante uguale",
+    "Digitare i mesi che si vogliono sommare o sottrarre alla data iniziale,\r\n"
+    " e premere il pulsante uguale",
+    "Digitare i trimestri che si vogliono sommare o sottrarre alla data iniziale,\r\n"
+    " e premere il pulsante uguale"};
+
+constexpr const char* OperationName(int Index)
+{
+    return Index == 0 ? "Somma" : "Sottrai";
+}
+
+/// The value's minutes and seconds, by the chosen format.
+struct TimeFormat
+{
+    int Digits;
+    const char* Legend;
+};
+constexpr TimeFormat TimeFormats[] = {{2, "hh  :  mm  :  ss"}, {3, " hh : mmm : sss"}};
+
+}
+
+frmMiniCalc::frmMiniCalc() : Designed(forms::FormBorder::FixedDialog)
+{
+    KeyPreview = true;
+    SetCancelButton(cmdChiudi);
+    Connect();
+}
+
+void frmMiniCalc::Connect()
+{
+    Load = [this] { Form_Load(); };
+    KeyPress = [this](short& KeyAscii) { Form_KeyPress(KeyAscii); };
+    cmdChiudi.Click = [this] { cmdChiudi_Click(); };
+    cmdClear.Click = [this] { cmdClear_Click(); };
+    optBase.Connect(&forms::OptionButton::Click, this, &frmMiniCalc::optBase_Click);
+    optFormat.Connect(&forms::OptionButton::Click, this, &frmMiniCalc::optFormat_Click);
+    optTipoDati.Connect(&forms::OptionButton::Click, this, &frmMiniCalc::optTipoDati_Click);
+    optSomma.Connect(&forms::OptionButton::Click, this, &frmMiniCalc::optSomma_Click);
+    optSommaData.Connect(&forms::OptionButton::Click, this, &frmMiniCalc::optSommaData_Click);
+
+    cmdSommaOre.Click = [this] { cmdSommaOre_Click(); };
+    txtCalc.Connect(&forms::TextBox::Change, this, &frmMiniCalc::txtCalc_Change);
+    txtCalc.Connect(&forms::TextBox::GotFocus, this, &frmMiniCalc::txtCalc_GotFocus);
+    txtCalc.Connect(&forms::TextBox::KeyPress, this, &frmMiniCalc::txtCalc_KeyPress);
+
+    cmdSommaData.Click = [this] { cmdSommaData_Click(); };
+    txtData.Connect(&forms::TextBox::Change, this, &frmMiniCalc::txtData_Change);
+    txtData.Connect(&forms::TextBox::GotFocus, this, &frmMiniCalc::txtData_GotFocus);
+    txtData.Connect(&forms::TextBox::LostFocus, this, &frmMiniCalc::txtData_LostFocus);
+    txtData.Connect(&forms::TextBox::KeyPress, this, &frmMiniCalc::txtData_KeyPress);
+    txtSommaDati.GotFocus = [this] { txtSommaDati_GotFocus(); };
+    txtSommaDati.KeyPress = [this](short& KeyAscii) { txtSommaDati_KeyPress(KeyAscii); };
+}
+
+void frmMiniCalc::Form_Load()
+{
+    SetHandCursor(*this);
+    if (OnTopFlag) SetAlwaysOnTop(*this, true);
+    HelpIndexDate = FirstHelpOfUnits;
+    HelpIndexTime = 0;
+    SetHelpTitle(TimeSide);
+    SetHelpText(HelpIndexTime);
+    FadeInForm(*this); // last: the window can be used, and closed, while it fades in
+}
+
+void frmMiniCalc::Form_KeyPress(short& KeyAscii)
+{
+    if (KeyAscii != '+' && KeyAscii != '-') return;
+    const auto& operation = optBase[TimeSide].Value() ? optSomma : optSommaData;
+    operation[KeyAscii == '+' ? 0 : 1].SetValue(true);
+}
+
+void frmMiniCalc::cmdChiudi_Click()
+{
+    Close();
+}
+
+void frmMiniCalc::cmdClear_Click()
+{
+    if (optBase[TimeSide].Value())
+        ClearTime();
+    else
+        ClearDate();
+}
+
+// A side that comes on screen starts from its zero, whatever it held before.
+void frmMiniCalc::optBase_Click(int Index)
+{
+    for (forms::PictureBox& panel : picBase) panel.SetVisible(false);
+    picBase[Index].SetVisible(true);
+    PlayResSound(ClickSound);
+    SetHelpText(Index == DateSide ? HelpIndexDate : HelpIndexTime);
+    SetHelpTitle(Index);
+    cmdClear_Click();
+}
+
+void frmMiniCalc::optFormat_Click(int Index)
+{
+    PlayResSound(ClickSound);
+    const TimeFormat& format = TimeFormats[Index];
+    txtCalc[4].SetMaxLength(format.Digits);
+    txtCalc[5].SetMaxLength(format.Digits);
+    lblTime[1].SetCaption(format.Legend);
+    SetHelpText(Index);
+    HelpIndexTime = Index;
+    cmdClear_Click();
+}
+
+void frmMiniCalc::optTipoDati_Click(int Index)
+{
+    PlayResSound(ClickSound);
+    lblTime[5].SetCaption(std::string(DateUnits[Index].Name));
+    HelpIndexDate = FirstHelpOfUnits + Index;
+    SetHelpText(HelpIndexDate);
+    cmdClear_Click();
+}
+
+void frmMiniCalc::optSomma_Click(int Index)
+{
+    PlayResSound(ClickSound);
+    lblTime[3].SetCaption(OperationName(Index));
+}
+
+void frmMiniCalc::optSommaData_Click(int Index)
+{
+    PlayResSound(ClickSound);
+    lblTime[7].SetCaption(OperationName(Index));
+}
+
+void frmMiniCalc::SetHelpTitle(int Index)
+{
+    lblTitoloHelp.SetCaption(HelpTitles[Index]);
+}
+
+void frmMiniCalc::SetHelpText(int HelpIndex)
+{
+    const auto index = static_cast<std::size_t>(HelpIndex);
+    if (index < HelpTexts.size()) lblHelpTxt.SetCaption(HelpTexts[index]);
+}
+
+}

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "services/SegmentedField.h"
+#include "services/forms/CommandButton.h"
+#include "services/forms/ControlArray.h"
+#include "services/forms/Label.h"
+#include "services/forms/OptionButton.h"
+#include "services/forms/PictureBox.h"
+#include "services/forms/TextBox.h"
+
+#include <array>
+
+namespace Ui {
+class frmMiniCalc;
+}
+
+namespace vellarno {
+
+struct ClockTime;
+struct DateUnit;
+
+/// The sequential calculator: a running clock time and a running date, on two panels at the same
+/// place, each stepped forward and back by what is typed beside it. What stands in the fields is
+/// all that it knows: there is no hidden total, and each opening starts afresh.
+class frmMiniCalc : public forms::Designed<Ui::frmMiniCalc>
+{
+public:
+    frmMiniCalc();
+
+private:
+    void Connect();
+    void Form_Load();
+    void Form_KeyPress(short& KeyAscii);
+    void cmdChiudi_Click();
+    void cmdClear_Click();
+    void ClearTime();
+    void ClearDate();
+
+    void optBase_Click(int Index);
+    void optFormat_Click(int Index);
+    void optTipoDati_Click(int Index);
+    void optSomma_Click(int Index);
+    void optSommaData_Click(int Index);
+
+    void SetHelpTitle(int Index);
+    void SetHelpText(int HelpIndex);
+
+    // The running clock time
+    void cmdSommaOre_Click();
+    void txtCalc_Change(int Index);
+    void txtCalc_GotFocus(int Index);
+    void txtCalc_KeyPress(int Index, short& KeyAscii);
+    ClockTime ReadTime(int First, int Sign) const;
+
+    // The running date
+    void cmdSommaData_Click();
+    void txtData_Change(int Index);
+    void txtData_GotFocus(int Index);
+    void txtData_LostFocus(int Index);
+    void txtData_KeyPress(int Index, short& KeyAscii);
+    void txtSommaDati_GotFocus();
+    void txtSommaDati_KeyPress(short& KeyAscii);
+    void RefuseYear();
+    void ShowDate(double Value);
+    const DateUnit& Unit() const;
+
+    int HelpIndexTime = 0; ///< help text of the chosen format
+    int HelpIndexDate = 0; ///< help text of the chosen unit
+
+    // Switches
+    forms::ControlArray<forms::OptionButton> optBase{*this, "optBase"};
+    forms::ControlArray<forms::OptionButton> optFormat{*this, "optFormat"};
+    forms::ControlArray<forms::OptionButton> optTipoDati{*this, "optTipoDati"};
+    forms::ControlArray<forms::OptionButton> optSomma{*this, "optSomma"};
+    forms::ControlArray<forms::OptionButton> optSommaData{*this, "optSommaData"};
+    forms::ControlArray<forms::PictureBox> picBase{*this, "picBase"};
+
+    // Entry and result
+    forms::ControlArray<forms::TextBox> txtCalc{*this, "txtCalc"};
+    forms::ControlArray<forms::TextBox> txtData{*this, "txtData"};
+    forms::TextBox& txtSommaDati = Get<forms::TextBox>("txtSommaDati");
+    forms::CommandButton& cmdSommaOre = Get<forms::CommandButton>("cmdSommaOre");
+    forms::CommandButton& cmdSommaData = Get<forms::CommandButton>("cmdSommaData");
+
+    // Texts
+    forms::ControlArray<forms::Label> lblTime{*this, "lblTime"};
+    forms::Label& lblTitoloHelp = Get<forms::Label>("lblTitoloHelp");
+    forms::Label& lblHelpTxt = Get<forms::Label>("lblHelpTxt");
+
+    forms::CommandButton& cmdClear = Get<forms::CommandButton>("cmdClear");
+    forms::CommandButton& cmdChiudi = Get<forms::CommandButton>("cmdChiudi");
+
+    static const std::array<Segment, 6> TimeRules;
+    static const std::array<Segment, 3> DateRules;
+    const SegmentedField TimeFields{txtCalc, TimeRules, &cmdSommaOre};
+    const SegmentedField DateFields{txtData, DateRules, &txtSommaDati};
+};
+
+}

@@ -1,0 +1,81 @@
+#include "engine/DateTime.h"
+#include "engine/Text.h"
+#include "minicalc/Accumulators.h"
+#include "minicalc/frmMiniCalc.h"
+
+namespace vellarno {
+
+namespace {
+
+constexpr int FirstOfTotal = 0;
+constexpr int FirstOfValue = 3;
+constexpr int Fields = 6;
+
+/// Each field cuts it to the digits that it holds.
+constexpr const char* Zero = "000";
+
+double Move(double Moment, ClockTime Step)
+{
+    Moment = DateAdd("h", Step.Hours, Moment).value();
+    Moment = DateAdd("n", Step.Minutes, Moment).value();
+    return DateAdd("s", Step.Seconds, Moment).value();
+}
+
+}
+
+ClockTime AddOnClock(ClockTime Total, ClockTime Step)
+{
+    const double moment = Move(Move(0, Total), Step);
+    return {Hour(moment), Minute(moment), Second(moment)};
+}
+
+// The value's minutes and seconds have no limit but their digits.
+const std::array<Segment, 6> frmMiniCalc::TimeRules = {{{23, 2, 1},
+                                                        {59, Segment::ByMaxLength, 2},
+                                                        {59, Segment::ByMaxLength, Segment::End},
+                                                        {23, 2, 4},
+                                                        {Segment::NoLimit, Segment::ByMaxLength, 5},
+                                                        {Segment::NoLimit, Segment::ByMaxLength,
+                                                         Segment::End}}};
+
+void frmMiniCalc::cmdSommaOre_Click()
+{
+    for (forms::TextBox& field : txtCalc)
+        if (field.Text().empty()) field.SetText(Zero);
+    const int sign = optSomma[0].Value() ? 1 : -1;
+    const ClockTime total = AddOnClock(ReadTime(FirstOfTotal, 1), ReadTime(FirstOfValue, sign));
+    txtCalc[0].SetText(Format(total.Hours, "00"));
+    txtCalc[1].SetText(Format(total.Minutes, "00"));
+    txtCalc[2].SetText(Format(total.Seconds, "00"));
+    for (int i = FirstOfValue; i < Fields; ++i) txtCalc[i].SetText(Zero);
+    txtCalc[FirstOfValue].SetFocus();
+}
+
+ClockTime frmMiniCalc::ReadTime(int First, int Sign) const
+{
+    const auto figure = [&](int i) { return Sign * CInt(txtCalc[First + i].Text()).value_or(0); };
+    return {figure(0), figure(1), figure(2)};
+}
+
+void frmMiniCalc::ClearTime()
+{
+    for (forms::TextBox& field : txtCalc) field.SetText(Zero);
+    txtCalc[FirstOfValue].SetFocus();
+}
+
+void frmMiniCalc::txtCalc_Change(int Index)
+{
+    TimeFields.Change(Index);
+}
+
+void frmMiniCalc::txtCalc_GotFocus(int Index)
+{
+    TimeFields.Select(Index);
+}
+
+void frmMiniCalc::txtCalc_KeyPress(int, short& KeyAscii)
+{
+    FilterDigits(KeyAscii);
+}
+
+}

@@ -1,0 +1,30 @@
+# Debian packages that the scripts need; sourced by them.
+
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev qt6-svg-dev libcanberra-dev
+  libxcb1-dev qt6-translations-l10n fonts-liberation"
+DISPLAY_PACKAGES="xvfb openbox xdotool imagemagick"
+TEST_PACKAGES="libgtest-dev"
+BENCH_PACKAGES="libbenchmark-dev"
+
+# Installs those of the named packages that are missing, and asks nothing. Leaves the network alone
+# when all are there.
+need() {
+  local missing=() package
+  for package in "$@"; do
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+      missing+=("$package")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  local root=()
+  [ "$(id -u)" = 0 ] || root=(sudo)
+  echo "Installing: ${missing[*]}"
+  "${root[@]}" apt-get update -qq &&
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+      apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Configures a preset once and builds it.
+build() {
+  [ -f "build/$1/build.ninja" ] || cmake --preset "$1" >/dev/null
+  cmake --build --preset "$1" --target "${@:2}" -- --quiet
+}
