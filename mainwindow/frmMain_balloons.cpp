@@ -16,7 +16,8 @@ struct BalloonText
 
 constexpr const char* Weeks = "Indica il numero di settimane presenti nel periodo indicato";
 constexpr const char* SaturdayCount = "Indica il numero di sabati presenti nel periodo indicato";
-constexpr const char* SundayCount = "Indica il numero delle domeniche presenti nel periodo indicato";
+constexpr const char* SundayCount =
+    "Indica il numero delle domeniche presenti nel periodo indicato";
 constexpr const char* Hours =
     "Intervallo di tempo complessivo, espresso in ore,\r\ntra 'Inizio ' e  'Fine'";
 constexpr const char* Minutes =

@@ -22,8 +22,9 @@ constexpr int ShadowOffset = 5;
 constexpr int YearBefore = 0;
 constexpr int YearAfter = 13;
 
-constexpr std::array MonthNames{"gennaio", "febbraio", "marzo",     "aprile",  "maggio",   "giugno",
-                                "luglio",  "agosto",   "settembre", "ottobre", "novembre", "dicembre"};
+constexpr std::array MonthNames{"gennaio",   "febbraio", "marzo",    "aprile",
+                                "maggio",    "giugno",   "luglio",   "agosto",
+                                "settembre", "ottobre",  "novembre", "dicembre"};
 
 /// The day in full, as it is read aloud: lunedì 3 gennaio 2005.
 std::string SpokenDay(int Serial, bool Holiday)
@@ -117,6 +118,11 @@ void frmMain::FillCalendar(int Mese, int Anno)
     shpOggi.SetVisible(false);
     int serial = monday;
     for (auto& cell : GIORNO) FillDay(cell, serial++, Mese, easterMonday);
+    const int today = static_cast<int>(Date()) - monday + 1;
+    if (!GIORNO.Has(today) || !GIORNO[today].Enabled()) return;
+    shpOggi.SetLeft(GIORNO[today].Left() - 1);
+    shpOggi.SetTop(GIORNO[today].Top());
+    shpOggi.SetVisible(true);
 }
 
 // The days that fill the grid before and after the month keep the colour and weight they had.
@@ -133,11 +139,6 @@ void frmMain::FillDay(forms::Label& Cell, int Serial, int Mese, int MondayNumber
     Cell.SetForeColor(holiday ? forms::PureRed : forms::ButtonText);
     Cell.SetFontBold(holiday);
     Cell.SetAccessibleName(SpokenDay(Serial, holiday));
-    if (Serial == static_cast<int>(Date())) {
-        shpOggi.SetLeft(Cell.Left() - 1);
-        shpOggi.SetTop(Cell.Top());
-        shpOggi.SetVisible(true);
-    }
 }
 
 void frmMain::GIORNO_MouseDown(int Index)

@@ -80,12 +80,14 @@ void frmMain::CompareDates()
 
 double frmMain::TypedDate(int First) const
 {
-    return DateSerial(Number(txtData[First + 2]), Number(txtData[First + 1]), Number(txtData[First]));
+    return DateSerial(Number(txtData[First + 2]), Number(txtData[First + 1]),
+                      Number(txtData[First]));
 }
 
 double frmMain::TypedTime(int First) const
 {
-    return TimeSerial(Number(txtTime[First]), Number(txtTime[First + 1]), Number(txtTime[First + 2]));
+    return TimeSerial(Number(txtTime[First]), Number(txtTime[First + 1]),
+                      Number(txtTime[First + 2]));
 }
 
 // Before the two are put in order: each weekday stays beside the date that was typed there.

@@ -28,7 +28,7 @@ void frmMain::picToolBarra_Click(int Index)
     case Help: ShowHelp(); break;
     case SequentialSums:
         PlayResSound(OpeningSound);
-        if (!Visible()) break; // closed while the sound served events
+        if (!Visible()) break;                        // closed while the sound served events
         if (!Sums.Open()) Sums.Set(*new frmMiniCalc); // deletes itself when closed
         Sums->Show(this);
         break;

@@ -11,13 +11,15 @@ class Desktop : public Platform
 {
 public:
     void Beep() override { forms::Beep(); }
-    void MsgBox(const std::string& Prompt, forms::MessageStyle Style, const std::string& Title) override
+    void MsgBox(const std::string& Prompt, forms::MessageStyle Style,
+                const std::string& Title) override
     {
         forms::MsgBox(Prompt, Style, Title);
     }
     void PlaySound(const std::string& WaveImage) override { sounds.Play(WaveImage); }
     bool OpenAddress(const std::string& Address) override { return forms::OpenAddress(Address); }
-    bool StartProgram(const std::string& Program, const std::vector<std::string>& Arguments) override
+    bool StartProgram(const std::string& Program,
+                      const std::vector<std::string>& Arguments) override
     {
         return forms::StartDetached(Program, Arguments);
     }

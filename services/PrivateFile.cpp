@@ -13,9 +13,11 @@ bool WritePrivateFile(const std::string& Path, const std::string& Bytes)
                           S_IRUSR | S_IWUSR);
     if (file < 0) return false;
     struct stat status = {};
-    const bool ordinary = fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink == 1;
-    const bool written = ordinary && ftruncate(file, 0) == 0 &&
-                         write(file, Bytes.data(), Bytes.size()) == static_cast<ssize_t>(Bytes.size());
+    const bool ordinary =
+        fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink == 1;
+    const bool written =
+        ordinary && ftruncate(file, 0) == 0 &&
+        write(file, Bytes.data(), Bytes.size()) == static_cast<ssize_t>(Bytes.size());
     return close(file) == 0 && written;
 }
 

@@ -31,8 +31,7 @@ public:
     SegmentedField(const forms::ControlArray<forms::TextBox>& Boxes, std::span<const Segment> Rules,
                    forms::Control* After = nullptr)
         : boxes(Boxes), rules(Rules), after(After)
-    {
-    }
+    {}
 
     /// Every change of a box's text. The writes that it makes raise the change again, inside.
     /// @param AfterRefusal  runs when a value above the limit has been emptied.

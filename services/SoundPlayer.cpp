@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <dlfcn.h>
 #include <mutex>
 #include <optional>
 #include <sys/mman.h>
@@ -19,6 +20,17 @@ constexpr std::uint32_t SoundId = 1;
 /// How long the end of the program waits for a service that is at work.
 constexpr std::chrono::milliseconds Patience{100};
 
+void IgnoreReport(const char*, int, const char*, int, const char*, ...) {}
+
+/// The last resort of the service, the bare sound card, reports a missing one on the terminal.
+void QuietenSoundCard()
+{
+    using SetHandler = int (*)(decltype(&IgnoreReport));
+    void* library = dlopen("libasound.so.2", RTLD_LAZY); // stays loaded for the service
+    void* setHandler = library ? dlsym(library, "snd_lib_error_set_handler") : nullptr;
+    if (setHandler) reinterpret_cast<SetHandler>(setHandler)(&IgnoreReport);
+}
+
 /// The service reads sounds from files: the image stands in a file that is in memory alone.
 void PlayImage(ca_context* Context, const std::string& Image)
 {
@@ -27,9 +39,8 @@ void PlayImage(ca_context* Context, const std::string& Image)
     if (write(file, Image.data(), Image.size()) == static_cast<ssize_t>(Image.size())) {
         const std::string path = "/proc/self/fd/" + std::to_string(file);
         ca_context_cancel(Context, SoundId);
-        ca_context_play(Context, SoundId, CA_PROP_MEDIA_FILENAME, path.c_str(),
-                        CA_PROP_MEDIA_ROLE, "event", CA_PROP_CANBERRA_CACHE_CONTROL, "never",
-                        nullptr);
+        ca_context_play(Context, SoundId, CA_PROP_MEDIA_FILENAME, path.c_str(), CA_PROP_MEDIA_ROLE,
+                        "event", CA_PROP_CANBERRA_CACHE_CONTROL, "never", nullptr);
     }
     close(file);
 }
@@ -46,6 +57,7 @@ struct SoundPlayer::Channel
 
     void Serve()
     {
+        QuietenSoundCard();
         ca_context* context = nullptr;
         const bool usable = ca_context_create(&context) == CA_SUCCESS;
         if (usable)

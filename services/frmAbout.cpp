@@ -88,8 +88,8 @@ void frmAbout::imgsito_Click()
 // The subject takes the caption, so that it never tells another version than the box.
 void frmAbout::lblEmail_Click()
 {
-    System().OpenAddress(std::string("mailto:") + endpoints::Mail + "?Subject=" + App::Title + " - " +
-                         lblVersione.Caption());
+    System().OpenAddress(std::string("mailto:") + endpoints::Mail + "?Subject=" + App::Title +
+                         " - " + lblVersione.Caption());
     Close();
 }
 

@@ -16,8 +16,13 @@ class PictureInterface : public QAccessibleWidget
 {
 public:
     PictureInterface(QWidget& Widget, Control& Of, QAccessible::Role Passive)
-        : QAccessibleWidget(&Widget, Of.Click ? QAccessible::Button : Passive), control(Of)
+        : QAccessibleWidget(&Widget, Passive), control(Of)
+    {}
+
+    /// The interface may be older than the handler of the click.
+    QAccessible::Role role() const override
     {
+        return control.Click ? QAccessible::Button : QAccessibleWidget::role();
     }
 
     QString text(QAccessible::Text Kind) const override

@@ -22,6 +22,10 @@ public:
     /// 1 ticked, 0 not.
     int Value() const { return isChecked() ? 1 : 0; }
     void SetValue(int Value) { setChecked(Value == 1); }
+
+protected:
+    /// All of the control answers the mouse, not its text alone.
+    bool hitButton(const QPoint& At) const override { return rect().contains(At); }
 };
 
 }

@@ -7,6 +7,8 @@
 #include <QMouseEvent>
 #include <QPointer>
 
+#include <utility>
+
 namespace vellarno::forms {
 
 namespace {
@@ -61,6 +63,7 @@ void Control::SetFontSize(int Pixels)
 
 void Control::SetFontBold(bool Bold)
 {
+    if (FontBold() == Bold) return;
     QFont font = self.font();
     font.setBold(Bold);
     self.setFont(font);
@@ -68,14 +71,12 @@ void Control::SetFontBold(bool Bold)
 
 void Control::SetMousePointer(int Pointer)
 {
-    pointer = Pointer;
-    UpdatePointer();
+    if (std::exchange(pointer, Pointer) != Pointer) UpdatePointer();
 }
 
 void Control::SetMouseIcon(int ResourceId)
 {
-    icon = ResourceId;
-    UpdatePointer();
+    if (std::exchange(icon, ResourceId) != ResourceId) UpdatePointer();
 }
 
 void Control::UpdatePointer()
@@ -93,7 +94,8 @@ void Control::UpdatePointer()
 Control::KeyFate Control::FilterCharacter(short& KeyAscii)
 {
     const short original = KeyAscii;
-    if (Form* form = ParentForm(); form && form->KeyPreview && form->KeyPress) form->KeyPress(KeyAscii);
+    if (Form* form = ParentForm(); form && form->KeyPreview && form->KeyPress)
+        form->KeyPress(KeyAscii);
     if (KeyAscii != KeyDropped && KeyPress) KeyPress(KeyAscii);
     if (KeyAscii == KeyDropped || KeyAscii == KeyNothing) return KeyFate::Swallowed;
     return KeyAscii == original ? KeyFate::Unchanged : KeyFate::Replaced;
@@ -143,24 +145,30 @@ bool Control::AfterEvent(QEvent& Event)
         if (self.parentWidget()) self.parentWidget()->update();
         return false;
     case QEvent::MouseMove:
-        if (MouseMove) MouseMove();
-        break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        if (MouseDown) MouseDown();
-        break;
     case QEvent::MouseButtonRelease:
-        if (MouseUp) MouseUp();
-        if (auto& release = static_cast<QMouseEvent&>(Event);
-            Click && ClickedByMouse() && release.button() == Qt::LeftButton &&
-            self.rect().contains(release.position().toPoint()))
-            Click();
-        break;
+        // A control may have been disabled while the button was down on it.
+        if (self.isEnabled()) TellMouse(static_cast<QMouseEvent&>(Event));
+        // What happened over a control is not told to the window behind it as well.
+        Event.accept();
+        return true;
     default: return false;
     }
-    // What happened over a control is not told to the window behind it as well.
-    Event.accept();
-    return true;
+}
+
+void Control::TellMouse(const QMouseEvent& Event)
+{
+    if (Event.type() == QEvent::MouseMove) {
+        if (MouseMove) MouseMove();
+    } else if (Event.type() != QEvent::MouseButtonRelease) {
+        if (MouseDown) MouseDown();
+    } else {
+        if (MouseUp) MouseUp();
+        if (Click && ClickedByMouse() && Event.button() == Qt::LeftButton &&
+            self.rect().contains(Event.position().toPoint()))
+            Click();
+    }
 }
 
 }

@@ -13,7 +13,12 @@ namespace vellarno::forms {
 class Form;
 
 /// Mouse pointers that the windows use. Custom shows the hand that SetMouseIcon gave.
-enum MousePointer { DefaultPointer = 0, HourglassPointer = 11, HelpPointer = 14, CustomPointer = 99 };
+enum MousePointer {
+    DefaultPointer = 0,
+    HourglassPointer = 11,
+    HelpPointer = 14,
+    CustomPointer = 99
+};
 
 /// What every control has, whatever widget does its work. Measures are pixels of the container;
 /// text is UTF-8. Events are plain callables: an empty one is an event that nobody handles.
@@ -45,7 +50,10 @@ public:
     void SetTop(int Top) { self.move(self.x(), Top); }
     void SetWidth(int Width) { self.resize(Width, self.height()); }
     void SetHeight(int Height) { self.resize(self.width(), Height); }
-    void Move(int Left, int Top, int Width, int Height) { self.setGeometry(Left, Top, Width, Height); }
+    void Move(int Left, int Top, int Width, int Height)
+    {
+        self.setGeometry(Left, Top, Width, Height);
+    }
     /// Above, or below, all that shares its container.
     void BringToFront() { self.raise(); }
     void SendToBack() { self.lower(); }
@@ -72,6 +80,7 @@ public:
     int MousePointer() const { return pointer; }
     void SetMousePointer(int Pointer);
     /// The pointer that CustomPointer shows; the only one that the program carries is the hand.
+    int MouseIcon() const { return icon; }
     void SetMouseIcon(int ResourceId);
 
     /// The widget behind the control, for the runtime and for tests that send it real events.
@@ -98,6 +107,7 @@ protected:
 
 private:
     void UpdatePointer();
+    void TellMouse(const QMouseEvent& Event);
 
     QWidget& self;
     int pointer = DefaultPointer;
@@ -111,10 +121,8 @@ template <class WidgetClass>
 class ControlOf : public WidgetClass, public Control
 {
 protected:
-    explicit ControlOf(QWidget* Parent)
-        : WidgetClass(Parent), Control(static_cast<QWidget&>(*this))
-    {
-    }
+    explicit ControlOf(QWidget* Parent) : WidgetClass(Parent), Control(static_cast<QWidget&>(*this))
+    {}
 
     bool event(QEvent* Event) override
     {

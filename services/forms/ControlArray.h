@@ -16,7 +16,8 @@ template <class ControlClass>
 class ControlArray
 {
 public:
-    ControlArray(const Form& Parent, const std::string& Name) : name(QString::fromStdString(Name) + '_')
+    ControlArray(const Form& Parent, const std::string& Name)
+        : name(QString::fromStdString(Name) + '_')
     {
         for (auto* control : Parent.findChildren<ControlClass*>()) {
             bool isNumber = false;
@@ -68,15 +69,9 @@ public:
     {
         ControlClass& model = (*this)[0];
         auto* made = new ControlClass(model.parentWidget()); // its container owns it
-        const QMetaObject* type = model.metaObject();
-        for (int i = 0; i < type->propertyCount(); ++i) {
-            const QMetaProperty property = type->property(i);
-            const bool own = i >= QWidget::staticMetaObject.propertyCount();
-            static const QStringList shared = {"geometry", "font", "toolTip", "enabled", "focusPolicy"};
-            if (own || shared.contains(QLatin1String(property.name())))
-                property.write(made, property.read(&model));
-        }
+        CopyProperties(model, *made);
         made->SetMousePointer(model.MousePointer());
+        made->SetMouseIcon(model.MouseIcon());
         made->setObjectName(name + QString::number(Index));
         made->hide();
         elements[Index] = made;
@@ -84,6 +79,20 @@ public:
     }
 
 private:
+    static void CopyProperties(const ControlClass& From, ControlClass& To)
+    {
+        static const QStringList common = {"geometry", "font", "toolTip", "enabled", "focusPolicy"};
+        const QMetaObject* type = From.metaObject();
+        for (int i = 0; i < type->propertyCount(); ++i) {
+            const QMetaProperty property = type->property(i);
+            const QLatin1String called(property.name());
+            const bool own = i >= QWidget::staticMetaObject.propertyCount();
+            // An empty pixmap would take the caption's place.
+            if (own ? called != QLatin1String("pixmap") : common.contains(called))
+                property.write(&To, property.read(&From));
+        }
+    }
+
     QString name;
     std::map<int, ControlClass*> elements;
 };

@@ -36,6 +36,13 @@ QPixmap MessagePicture(const QWidget& Box, MessageStyle Style)
     return picture;
 }
 
+/// Platforms without a display may have the interface, but no connection behind it.
+xcb_connection_t* X11Connection()
+{
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 ? x11->connection() : nullptr;
+}
+
 }
 
 void MsgBox(const std::string& Prompt, MessageStyle Style, const std::string& Title)
@@ -90,16 +97,15 @@ bool StartDetached(const std::string& Program, const std::vector<std::string>& A
 
 bool OnX11()
 {
-    return qGuiApp->nativeInterface<QNativeInterface::QX11Application>() != nullptr;
+    return X11Connection() != nullptr;
 }
 
 bool Compositing()
 {
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11) return false;
+    xcb_connection_t* display = X11Connection();
+    if (!display) return false;
     // Whoever composes the screen owns this selection (Extended Window Manager Hints).
     constexpr char selection[] = "_NET_WM_CM_S0";
-    xcb_connection_t* display = x11->connection();
     auto* atom = xcb_intern_atom_reply(
         display, xcb_intern_atom(display, 1, sizeof selection - 1, selection), nullptr);
     if (!atom) return false;

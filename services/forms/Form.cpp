@@ -42,18 +42,23 @@ Form::~Form()
     if (modalLoop) modalLoop->quit();
 }
 
-void Form::LoadOnce()
+bool Form::LoadOnce()
 {
-    if (loaded) return;
+    closed = false;
+    if (loaded) return true;
     loaded = true;
+    const QPointer<Form> alive = this;
     const auto load = std::exchange(Load, nullptr); // outlives a window that is closed meanwhile
     if (load) load();
+    return alive && !closed;
 }
 
 void Form::UnloadAll()
 {
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->isVisible()) window->close();
+    const auto windows = QApplication::topLevelWidgets();
+    // One that closes may take others along.
+    for (const auto& window : QList<QPointer<QWidget>>(windows.begin(), windows.end()))
+        if (window && window->isVisible()) window->close();
 }
 
 void Form::Place()
@@ -74,9 +79,7 @@ void Form::TakeOwner(Form* Owner)
 void Form::Show(Form* Owner)
 {
     TakeOwner(Owner);
-    const QPointer<Form> alive = this;
-    LoadOnce();
-    if (!alive) return; // closed while it loaded
+    if (!LoadOnce()) return;
     if (!isVisible()) {
         Place();
         show();
@@ -91,7 +94,7 @@ void Form::ShowModal(Form& Owner)
 {
     TakeOwner(&Owner);
     setWindowModality(Qt::ApplicationModal);
-    LoadOnce();
+    if (!LoadOnce()) return;
     QEventLoop loop;
     modalLoop = &loop;
     const QPointer<Form> alive = this;
@@ -185,6 +188,7 @@ void Form::paintEvent(QPaintEvent* Event)
 void Form::closeEvent(QCloseEvent* Event)
 {
     Event->accept();
+    closed = true;
     const auto unload = std::exchange(Unload, nullptr);
     if (unload) unload();
     if (modalLoop) modalLoop->quit();

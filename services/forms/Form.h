@@ -77,12 +77,14 @@ protected:
 private:
     bool PressDialogButton(const QKeyEvent& Event);
     void FocusMoved(Control& To, const QFocusEvent& Event);
-    void LoadOnce();
+    /// @return false if the window was closed meanwhile.
+    bool LoadOnce();
     void TakeOwner(Form* Owner);
     void Place();
 
     const FormBorder border;
     bool loaded = false;
+    bool closed = false; ///< since it was last told to come up
     bool topmost = false;
     QPointer<QWidget> focused; ///< whose GotFocus was the last to run
     CommandButton* defaultButton = nullptr;

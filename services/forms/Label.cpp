@@ -1,8 +1,15 @@
 #include "services/forms/Label.h"
 
 #include <QPainter>
+#include <utility>
 
 namespace vellarno::forms {
+
+namespace {
+
+constexpr int FieldMargin = 3; ///< between the edge of a value box and its text
+
+}
 
 Label::Label(QWidget* Parent) : ControlOf<QLabel>(Parent)
 {
@@ -11,7 +18,8 @@ Label::Label(QWidget* Parent) : ControlOf<QLabel>(Parent)
 
 void Label::SetCaption(const std::string& Text)
 {
-    const QString caption = QString::fromStdString(Text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    const QString caption =
+        QString::fromStdString(Text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
     if (caption == text()) return;
     setText(caption);
     NameItself();
@@ -19,7 +27,8 @@ void Label::SetCaption(const std::string& Text)
 
 void Label::NameItself()
 {
-    if (!accessibleTitle.isEmpty()) setAccessibleName(accessibleTitle + QLatin1String(": ") + text());
+    if (!accessibleTitle.isEmpty())
+        setAccessibleName(accessibleTitle + QLatin1String(": ") + text());
 }
 
 void Label::SetAccessibleTitle(const QString& Title)
@@ -30,7 +39,7 @@ void Label::SetAccessibleTitle(const QString& Title)
 
 void Label::SetForeColor(unsigned int Value)
 {
-    foreColor = Value;
+    if (std::exchange(foreColor, Value) == Value) return;
     QPalette colors = palette();
     colors.setColor(QPalette::Active, QPalette::WindowText, ColorOf(Value));
     colors.setColor(QPalette::Inactive, QPalette::WindowText, ColorOf(Value));
@@ -52,6 +61,8 @@ void Label::SetBackColor(unsigned int Value)
 void Label::SetLook(forms::Look Kind)
 {
     look = Kind;
+    const int inside = Kind == Look::Field ? FieldMargin : 0;
+    setContentsMargins(inside, 0, inside, 0);
     update();
 }
 
@@ -60,7 +71,8 @@ void Label::paintEvent(QPaintEvent* Event)
     {
         QPainter painter(this);
         if (backOpaque) painter.fillRect(rect(), ColorOf(backColor));
-        DrawLook(painter, rect(), look, isEnabled(), false);
+        const auto* explained = legend.isEmpty() ? this : parentWidget()->findChild<Label*>(legend);
+        DrawLook(painter, rect(), look, explained && explained->isEnabled(), false);
     }
     QLabel::paintEvent(Event);
 }

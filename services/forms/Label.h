@@ -15,6 +15,7 @@ class Label : public ControlOf<QLabel>
     Q_PROPERTY(int FontSize READ FontSize WRITE SetFontSize)
     Q_PROPERTY(bool FontBold READ FontBold WRITE SetFontBold)
     Q_PROPERTY(unsigned int ForeColor READ ForeColor WRITE SetForeColor)
+    Q_PROPERTY(QString Legend READ Legend WRITE SetLegend)
     Q_PROPERTY(QString AccessibleTitle READ AccessibleTitle WRITE SetAccessibleTitle)
 
 public:
@@ -32,6 +33,9 @@ public:
     forms::Look GetLook() const { return look; }
     void SetLook(forms::Look Kind);
 
+    /// Name of the label that explains the figure: its box looks usable while that one is enabled.
+    QString Legend() const { return legend; }
+    void SetLegend(const QString& Name) { legend = Name; }
     /// What a screen reader says before the caption, which follows after a colon as it changes.
     QString AccessibleTitle() const { return accessibleTitle; }
     void SetAccessibleTitle(const QString& Title);
@@ -47,6 +51,7 @@ private:
     unsigned int foreColor = Black;
     unsigned int backColor = WindowBackground;
     bool backOpaque = false;
+    QString legend;
     QString accessibleTitle;
 };
 

@@ -33,9 +33,14 @@ Backdrop GroundOf(const QRect& Area, Look Kind, bool Enabled, bool Focused)
     if (Kind == Look::Panel) return {Panel, Focused ? Accent : PanelEdge, PanelRadius};
     if (Kind == Look::Today) return {Today, Qt::transparent, FieldRadius};
     QLinearGradient gradient(Area.topLeft(), Area.bottomLeft());
-    gradient.setColorAt(0, Kind == Look::Tint ? Qt::transparent : BandTop);
+    if (Kind == Look::Sheen) {
+        gradient.setColorAt(0, QColor(255, 255, 255, 160));
+        gradient.setColorAt(1, QColor(255, 255, 255, 0));
+        return {gradient, Qt::transparent, PanelRadius};
+    }
+    gradient.setColorAt(0, BandTop);
     gradient.setColorAt(1, BandBottom);
-    return {gradient, Kind == Look::Tint ? Qt::transparent : BandEdge, PanelRadius};
+    return {gradient, Focused ? Accent : BandEdge, PanelRadius};
 }
 
 /// Darker towards the middle, by sheets of the same faint grey one inside the other.
@@ -90,7 +95,8 @@ void DrawPicture(QPainter& Painter, const QRectF& Area, const QString& Path, boo
 {
     const qreal scale = Painter.device()->devicePixelRatioF();
     const QSize pixels = (Area.size() * scale).toSize();
-    const QString key = QStringLiteral("%1@%2x%3").arg(Path).arg(pixels.width()).arg(pixels.height());
+    const QString key =
+        QStringLiteral("%1@%2x%3").arg(Path).arg(pixels.width()).arg(pixels.height());
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
         picture = QPixmap(pixels);

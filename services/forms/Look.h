@@ -19,7 +19,7 @@ enum class Look {
     Field, ///< white value box with a fine edge
     Panel, ///< light panel that lifts a section
     Band,  ///< gradient strip
-    Tint,  ///< gradient alone, over a panel
+    Sheen, ///< light from above, over a band
     Today, ///< mark of today in the calendar
     Shadow ///< soft shadow of a sheet that lies above
 };

@@ -39,6 +39,8 @@ protected:
         if (focusAfterClick && focusAfterClick != this)
             focusAfterClick->setFocus(Qt::OtherFocusReason);
     }
+    /// All of the control answers the mouse, not its text alone.
+    bool hitButton(const QPoint& At) const override { return rect().contains(At); }
 
 private:
     /// Auto-exclusive buttons of Qt also exclude those in containers further down.

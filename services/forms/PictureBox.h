@@ -28,7 +28,6 @@ public:
     /// All that stands on the box, in the order of printing.
     std::string PrintedText() const;
 
-
 protected:
     void paintEvent(QPaintEvent* Event) override;
 

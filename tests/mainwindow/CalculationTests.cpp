@@ -153,8 +153,10 @@ TEST_F(Calculation, OneEmptyFieldIsToldAndNothingElseChanges)
 
 TEST_F(Calculation, DatesThatTheCalendarDoesNotHaveAreRefused)
 {
-    const std::string date = " è stata immessa una data non valida!\r\nVerificare i dati e riprovare.";
-    const std::string year = " è stata immesso un anno non valido!\r\nVerificare i dati e riprovare.";
+    const std::string date =
+        " è stata immessa una data non valida!\r\nVerificare i dati e riprovare.";
+    const std::string year =
+        " è stata immesso un anno non valido!\r\nVerificare i dati e riprovare.";
     struct Case
     {
         const char *Start, *End;
@@ -188,7 +190,8 @@ TEST_F(Calculation, AYearOfTwoDigitsIsNoYearNearToday)
     Click(cmdCalcola); // leaving the year fills it to 09
     EXPECT_EQ(txtData[5].Text(), "09");
     ASSERT_EQ(desktop.Messages.size(), 1u);
-    EXPECT_NE(desktop.Messages[0].Prompt.find("'Data fine' è stata immesso un anno"), std::string::npos);
+    EXPECT_NE(desktop.Messages[0].Prompt.find("'Data fine' è stata immesso un anno"),
+              std::string::npos);
 }
 
 TEST_F(Calculation, EnterMovesOnAndCalculatesNothing)

@@ -25,14 +25,22 @@ TEST_F(Fields, TypedInTheModeOfDates)
     };
     Choose(Dates);
     for (const Case& c : {
-             Case{0, "31", "31", "data 1", 0},     Case{0, "32", "", "data 0", 2},
-             Case{0, "99", "", "data 0", 2},       Case{0, "00", "", "data 0", 2},
-             Case{0, "0", "0", "data 0", 0},       Case{0, "a+ 1-", "1", "data 0", 0},
-             Case{1, "12", "12", "data 2", 0},     Case{1, "13", "", "data 1", 2},
-             Case{1, "00", "", "data 1", 2},       Case{2, "2100", "2100", "data 3", 0},
-             Case{2, "2101", "", "data 2", 2},     Case{2, "0999", "0999", "data 3", 0},
-             Case{2, "0000", "0000", "data 3", 0}, Case{4, "07", "07", "data 5", 0},
-             Case{5, "2100", "2100", "data 5", 0}, Case{5, "9", "9", "data 5", 0},
+             Case{0, "31", "31", "data 1", 0},
+             Case{0, "32", "", "data 0", 2},
+             Case{0, "99", "", "data 0", 2},
+             Case{0, "00", "", "data 0", 2},
+             Case{0, "0", "0", "data 0", 0},
+             Case{0, "a+ 1-", "1", "data 0", 0},
+             Case{1, "12", "12", "data 2", 0},
+             Case{1, "13", "", "data 1", 2},
+             Case{1, "00", "", "data 1", 2},
+             Case{2, "2100", "2100", "data 3", 0},
+             Case{2, "2101", "", "data 2", 2},
+             Case{2, "0999", "0999", "data 3", 0},
+             Case{2, "0000", "0000", "data 3", 0},
+             Case{4, "07", "07", "data 5", 0},
+             Case{5, "2100", "2100", "data 5", 0},
+             Case{5, "9", "9", "data 5", 0},
          }) {
         Choose(Moments);
         Choose(Dates);
@@ -52,11 +60,16 @@ TEST_F(Fields, TypedInTheModeOfTimes)
         int Beeps;
     };
     for (const Case& c : {
-             Case{0, "23", "23", "time 1", 0},     Case{0, "24", "", "time 0", 2},
-             Case{0, "00", "00", "time 1", 0},     Case{1, "60", "", "time 1", 2},
-             Case{2, "59", "59", "time 3", 0},     Case{3, "24", "", "time 3", 2},
-             Case{4, "59", "59", "time 5", 0},     Case{5, "123", "", "time 5", 2},
-             Case{5, "059", "059", "time 5", 0},   Case{5, "0059", "0059", "time 5", 0},
+             Case{0, "23", "23", "time 1", 0},
+             Case{0, "24", "", "time 0", 2},
+             Case{0, "00", "00", "time 1", 0},
+             Case{1, "60", "", "time 1", 2},
+             Case{2, "59", "59", "time 3", 0},
+             Case{3, "24", "", "time 3", 2},
+             Case{4, "59", "59", "time 5", 0},
+             Case{5, "123", "", "time 5", 2},
+             Case{5, "059", "059", "time 5", 0},
+             Case{5, "0059", "0059", "time 5", 0},
          }) {
         Choose(Dates);
         Choose(Times);

@@ -101,6 +101,16 @@ void Click(forms::Control& Control)
     Button(QTest::MouseClick, Control.Widget(), MiddleOf(Control));
 }
 
+void DoubleClick(forms::Control& Control)
+{
+    Button(QTest::MouseDClick, Control.Widget(), MiddleOf(Control));
+}
+
+void RightClick(forms::Control& Control)
+{
+    Button(QTest::MouseClick, Control.Widget(), MiddleOf(Control), Qt::RightButton);
+}
+
 void ClickAt(forms::Form& Form, int X, int Y)
 {
     Button(QTest::MouseClick, Form, {X, Y});
@@ -194,6 +204,7 @@ bool Drop(forms::Control& Control, const std::string& Text)
 std::string ToolTipOver(forms::Control& Control)
 {
     QToolTip::hideText();
+    WaitUntil([] { return !QToolTip::isVisible(); });
     const QPoint middle = MiddleOf(Control);
     for (const QPoint& at :
          {middle + QPoint(1, 0), middle}) // a pointer that stands still tells nothing

@@ -30,6 +30,8 @@ void Press(forms::Form& Form, Qt::Key Key, Qt::KeyboardModifiers Modifiers = Qt:
 
 /// The left button, pressed and released over the middle of the control, or at a point of the form.
 void Click(forms::Control& Control);
+void DoubleClick(forms::Control& Control);
+void RightClick(forms::Control& Control);
 void ClickAt(forms::Form& Form, int X, int Y);
 void MouseDown(forms::Control& Control);
 void MouseUp(forms::Control& Control);
