@@ -34,6 +34,9 @@ class frmMain : public forms::Designed<Ui::frmMain>, private ResultLabels
 public:
     frmMain();
 
+    /// Shows the time, and on a new day of the month everything else in the strip.
+    void Timer1_Timer();
+
 private:
     // The entry rows
     forms::ControlArray<forms::PictureBox> PicData{*this, "PicData"};
@@ -143,7 +146,6 @@ private:
     void InitStatusStrip();
     void UpdateStatusStrip();
     void PrintCentred(forms::PictureBox& Panel, const std::string& Text);
-    void Timer1_Timer();
     void cmdNowTime_Click(int Index);
 
     // Balloons

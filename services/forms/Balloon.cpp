@@ -105,6 +105,7 @@ void Balloon::Changed()
 
 bool Balloon::eventFilter(QObject* Watched, QEvent* Event)
 {
+    if(getenv("DBG")) fprintf(stderr,"ev %d pos %d %d\n",(int)Event->type(),QCursor::pos().x(),QCursor::pos().y());
     switch (Event->type()) {
     case QEvent::Hide:
     case QEvent::Close: Dismiss(); break;
