@@ -20,6 +20,7 @@ public:
     void SetValue(int Value) { setValue(Value); }
 
 protected:
+    void paintEvent(QPaintEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
     void wheelEvent(QWheelEvent* Event) override;
 };
