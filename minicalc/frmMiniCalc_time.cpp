@@ -30,13 +30,13 @@ ClockTime AddOnClock(ClockTime Total, ClockTime Step)
 }
 
 // The value's minutes and seconds have no limit but their digits.
-const std::array<Segment, 6> frmMiniCalc::TimeRules = {{{23, 2, 1},
-                                                        {59, Segment::ByMaxLength, 2},
-                                                        {59, Segment::ByMaxLength, Segment::End},
-                                                        {23, 2, 4},
-                                                        {Segment::NoLimit, Segment::ByMaxLength, 5},
-                                                        {Segment::NoLimit, Segment::ByMaxLength,
-                                                         Segment::End}}};
+const std::array<Segment, 6> frmMiniCalc::TimeRules = {
+    {{23, 2, 1},
+     {59, Segment::ByMaxLength, 2},
+     {59, Segment::ByMaxLength, Segment::End},
+     {23, 2, 4},
+     {Segment::NoLimit, Segment::ByMaxLength, 5},
+     {Segment::NoLimit, Segment::ByMaxLength, Segment::End}}};
 
 void frmMiniCalc::cmdSommaOre_Click()
 {

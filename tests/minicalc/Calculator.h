@@ -9,6 +9,8 @@
 #include "tests/support/Workbench.h"
 
 #include <gtest/gtest.h>
+#include <random>
+#include <sstream>
 
 namespace vellarno::test {
 
@@ -16,10 +18,6 @@ namespace vellarno::test {
 class Calculator : public ::testing::Test
 {
 protected:
-    template <class ControlClass>
-    using Array = forms::ControlArray<ControlClass>;
-    enum Side { Time, Date };
-
     Calculator()
     {
         SetClock([] { return DateSerial(2026, 11, 22) + 0.5; });
@@ -27,7 +25,6 @@ protected:
         form.Show(&owner);
         Open(form);
     }
-
     ~Calculator() override
     {
         if (ref.Open()) form.Close();
@@ -35,63 +32,54 @@ protected:
         SetClock(nullptr);
     }
 
-    /// Name of the control that has the focus.
-    std::string Focus() const { return form.ActiveControl()->Widget().objectName().toStdString(); }
-
-    static std::string Joined(const Array<forms::TextBox>& Boxes, int First, const char* Separator)
+    forms::TextBox& Box(const std::string& Name) { return form.Get<forms::TextBox>(Name.c_str()); }
+    forms::OptionButton& Option(const std::string& Name)
     {
-        return Boxes[First].Text() + Separator + Boxes[First + 1].Text() + Separator +
-               Boxes[First + 2].Text();
+        return form.Get<forms::OptionButton>(Name.c_str());
     }
-    std::string Total() const { return Joined(txtCalc, 0, ":"); }
-    std::string Value() const { return Joined(txtCalc, 3, ":"); }
-    std::string Day() const { return Joined(txtData, 0, "/"); }
+    std::string Caption(const char* Name) { return form.Get<forms::Label>(Name).Caption(); }
+    void Push(const char* Name) { Click(form.Get<forms::CommandButton>(Name)); }
+    /// Clicks one of an array of options.
+    void Choose(const std::string& Name, int Index) { Click(Option(Name + '_' + CStr(Index))); }
 
-    /// Writes the parts of "05:30:00" or "31/12/2020" into a row.
-    static void Write(const Array<forms::TextBox>& Boxes, int First, std::string Parts)
+    /// Name of the control that has the focus.
+    std::string Focus() { return form.ActiveControl()->Widget().objectName().toStdString(); }
+
+    /// The texts of three boxes in a row, parted by blanks.
+    std::string Row(const std::string& Name, int First)
     {
-        for (int i = 0; i < 3; ++i) {
-            const auto end = Parts.find_first_of(":/");
-            Boxes[First + i].SetText(Parts.substr(0, end));
-            Parts.erase(0, end == std::string::npos ? end : end + 1);
+        std::string all;
+        for (int i = First; i < First + 3; ++i)
+            all += (i > First ? " " : "") + Box(Name + '_' + CStr(i)).Text();
+        return all;
+    }
+    void Fill(const std::string& Name, int First, const std::string& Row)
+    {
+        std::istringstream texts(Row + "   ");
+        std::string text;
+        for (int i = First; i < First + 3; ++i) {
+            std::getline(texts, text, ' ');
+            Box(Name + '_' + CStr(i)).SetText(text);
         }
     }
 
-    int BeepsOf(const std::function<void()>& Action)
+    /// Types into a box, where \b is backspace; gives its text, the focus and the beeps, parted by
+    /// blanks.
+    std::string Typed(const std::string& Name, const std::string& Keys)
     {
+        Box(Name).SetFocus();
         desktop.Beeps = 0;
-        Action();
-        return desktop.Beeps;
-    }
-
-    /// Types into a field; gives its text, the focus and the beeps, parted by blanks.
-    std::string Typed(forms::TextBox& Box, const std::string& Keys)
-    {
-        Box.SetFocus();
-        const int beeps = BeepsOf([&] { Type(form, Keys); });
-        return Box.Text() + ' ' + Focus() + ' ' + std::to_string(beeps);
+        for (const char key : Keys)
+            key == '\b' ? Press(form, Qt::Key_Backspace) : Type(form, std::string(1, key));
+        return Box(Name).Text() + ' ' + Focus() + ' ' + CStr(desktop.Beeps);
     }
 
     Recorder desktop;
     Workbench owner;
     frmMiniCalc& form = *new frmMiniCalc; ///< deletes itself when closed
     forms::FormRef<frmMiniCalc> ref{form};
-    Array<forms::TextBox> txtCalc{form, "txtCalc"};
-    Array<forms::TextBox> txtData{form, "txtData"};
-    forms::TextBox& txtSommaDati = form.Get<forms::TextBox>("txtSommaDati");
-    Array<forms::OptionButton> optBase{form, "optBase"};
-    Array<forms::OptionButton> optFormat{form, "optFormat"};
-    Array<forms::OptionButton> optTipoDati{form, "optTipoDati"};
-    Array<forms::OptionButton> optSomma{form, "optSomma"};
-    Array<forms::OptionButton> optSommaData{form, "optSommaData"};
-    Array<forms::PictureBox> picBase{form, "picBase"};
-    Array<forms::Label> lblTime{form, "lblTime"};
-    forms::Label& lblTitoloHelp = form.Get<forms::Label>("lblTitoloHelp");
-    forms::Label& lblHelpTxt = form.Get<forms::Label>("lblHelpTxt");
-    forms::CommandButton& cmdSommaOre = form.Get<forms::CommandButton>("cmdSommaOre");
-    forms::CommandButton& cmdSommaData = form.Get<forms::CommandButton>("cmdSommaData");
-    forms::CommandButton& cmdClear = form.Get<forms::CommandButton>("cmdClear");
-    forms::CommandButton& cmdChiudi = form.Get<forms::CommandButton>("cmdChiudi");
+    std::mt19937 random{20261122};
+    int Within(int Low, int High) { return std::uniform_int_distribution(Low, High)(random); }
 };
 
 }
