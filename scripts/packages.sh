@@ -5,6 +5,8 @@ BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev qt6-svg-
 DISPLAY_PACKAGES="xvfb openbox xdotool imagemagick"
 TEST_PACKAGES="libgtest-dev"
 BENCH_PACKAGES="libbenchmark-dev"
+PACKAGE_PACKAGES="dpkg-dev desktop-file-utils appstream lintian"
+PEER_PACKAGES="libxcb-damage0-dev dbus-daemon python3 speedcrunch galculator qalculate-gtk"
 
 # Installs those of the named packages that are missing, and asks nothing. Leaves the network alone
 # when all are there.
