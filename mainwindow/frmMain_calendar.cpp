@@ -131,14 +131,11 @@ void frmMain::FillDay(forms::Label& Cell, int Serial, int Mese, int MondayNumber
     const bool shown = Month(Serial) == Mese;
     Cell.SetEnabled(shown);
     Cell.SetCaption(CStr(Day(Serial)));
-    if (!shown) {
-        Cell.SetAccessibleName("");
-        return;
-    }
-    const bool holiday = IsHoliday(Serial, MondayNumber);
+    const bool holiday = shown && IsHoliday(Serial, MondayNumber);
+    Cell.SetAccessibleName(SpokenDay(Serial, holiday));
+    if (!shown) return;
     Cell.SetForeColor(holiday ? forms::PureRed : forms::ButtonText);
     Cell.SetFontBold(holiday);
-    Cell.SetAccessibleName(SpokenDay(Serial, holiday));
 }
 
 void frmMain::GIORNO_MouseDown(int Index)

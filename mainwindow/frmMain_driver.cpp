@@ -44,7 +44,7 @@ void frmMain::CompareTimes()
         ShowIncompleteData();
         return;
     }
-    const double today = Date();
+    const double today = Date(); // one reading for both: midnight can't come between them
     CalcTimes(today + TypedTime(0), today + TypedTime(3), TypedTime(3), *this);
 }
 

@@ -56,6 +56,7 @@ void frmMain::EnableMode(int Index)
     const bool dates = Index != Times;
     const bool times = Index != Dates;
     if (times) PlayResSound(ClickSound);
+    if (!optDataTime[Index].Value()) return; // another mode was chosen while it sounded
     cmdNowTime.SetEnabled(0, 1, times);
     cmdNowData.SetEnabled(0, 1, dates);
     lblChekBox.SetEnabled(0, 0, !times);
@@ -74,6 +75,7 @@ void frmMain::EnableMode(int Index)
     (dates ? txtData : txtTime)[0].SetFocus();
     chkDayInt.SetEnabled(!times);
     if (!times) chkDayInt_Click();
+    if (!optDataTime[Index].Value()) return;
     chkWorkSat.SetEnabled(dates);
     imgBorder.SetHeight(Panels[Index].Height);
     imgBorder.SetTop(Panels[Index].Top);
@@ -82,6 +84,7 @@ void frmMain::EnableMode(int Index)
 void frmMain::chkDayInt_Click()
 {
     PlayResSound(ClickSound);
+    if (!optDataTime[Dates].Value()) return; // the mode was left while it sounded
     txtTime[3].SetText(chkDayInt.Value() == 1 ? "24" : "00");
     if (HasAllFields(Dates))
         cmdCalcola_Click();

@@ -22,28 +22,36 @@ public:
     /// The interface may be older than the handler of the click.
     QAccessible::Role role() const override
     {
-        return control.Click ? QAccessible::Button : QAccessibleWidget::role();
+        return Acts(control) ? QAccessible::Button : QAccessibleWidget::role();
     }
 
     QString text(QAccessible::Text Kind) const override
     {
         const QString own = QAccessibleWidget::text(Kind);
-        if (Kind != QAccessible::Name || !own.isEmpty()) return own;
-        const auto* label = dynamic_cast<const Label*>(widget());
-        return label ? label->text() : own;
+        const auto* label = dynamic_cast<const Label*>(&control);
+        const bool speaks =
+            Kind == QAccessible::Name && own.isEmpty() && label && !label->Decoration();
+        return speaks ? label->text() : own;
     }
 
     QStringList actionNames() const override
     {
-        return control.Click ? QStringList{pressAction()} : QStringList{};
+        return Acts(control) ? QStringList{pressAction()} : QStringList{};
     }
 
     void doAction(const QString& Action) override
     {
-        if (Action == pressAction() && control.Enabled() && control.Click) control.Click();
+        if (Action == pressAction() && control.Enabled() && Acts(control)) control.Click();
     }
 
 private:
+    /// The caption of a check box can be clicked too, but the box is what acts.
+    static bool Acts(const Control& Of)
+    {
+        const auto* label = dynamic_cast<const Label*>(&Of);
+        return Of.Click && !(label && label->Decoration());
+    }
+
     Control& control;
 };
 

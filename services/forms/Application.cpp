@@ -10,6 +10,8 @@
 #include <QTranslator>
 
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -32,6 +34,15 @@ void PreferX11()
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
 }
 
+/// Stands in while the toolkit looks for a display: it complains of each kind in turn, also where
+/// the next one is there, and aborts after the last.
+void TellNoDisplay(QtMsgType Type, const QMessageLogContext&, const QString&)
+{
+    if (Type != QtFatalMsg) return;
+    std::fputs("Impossibile avviare il programma: nessuno schermo raggiungibile.\n", stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
 }
 
 struct Application::Parts
@@ -47,7 +58,9 @@ struct Application::Parts
 Application::Application(int& ArgumentCount, char** Arguments)
 {
     PreferX11();
+    const auto usual = qInstallMessageHandler(TellNoDisplay);
     parts = std::make_unique<Parts>(ArgumentCount, Arguments);
+    qInstallMessageHandler(usual);
     QApplication::setApplicationName(QStringLiteral("vellarno"));
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(QStringLiteral("vellarno"));

@@ -4,6 +4,7 @@
 #include "services/forms/Form.h"
 #include "services/forms/Look.h"
 
+#include <QBitmap>
 #include <QCursor>
 #include <QEvent>
 #include <QGuiApplication>
@@ -105,7 +106,6 @@ void Balloon::Changed()
 
 bool Balloon::eventFilter(QObject* Watched, QEvent* Event)
 {
-    if(getenv("DBG")) fprintf(stderr,"ev %d pos %d %d\n",(int)Event->type(),QCursor::pos().x(),QCursor::pos().y());
     switch (Event->type()) {
     case QEvent::Hide:
     case QEvent::Close: Dismiss(); break;
@@ -128,7 +128,9 @@ void Balloon::Rest()
 
 void Balloon::Rested()
 {
-    if (QCursor::pos() == pointer)
+    if (!parentWidget()->isVisible() || parentWidget()->isMinimized())
+        Dismiss();
+    else if (QCursor::pos() == pointer)
         Open();
     else
         Rest();
@@ -185,7 +187,7 @@ Balloon::Layout Balloon::Measure() const
 void Balloon::Arrange()
 {
     Place(Measure().Size);
-    if (!translucent) setMask(QRegion(Outline().toFillPolygon().toPolygon()));
+    if (!translucent) setMask(Silhouette());
     update();
 }
 
@@ -227,6 +229,18 @@ QPainterPath Balloon::Outline() const
         {{stemTip.x() - half, root}, {qreal(stemTip.x()), tip}, {stemTip.x() + half, root}}));
     stem.closeSubpath();
     return outline.united(stem);
+}
+
+/// Cuts the window to the balloon's shape where the desktop can't let what lies behind show.
+QBitmap Balloon::Silhouette() const
+{
+    QBitmap shape(size());
+    shape.clear();
+    QPainter painter(&shape);
+    painter.setPen(Qt::color1);
+    painter.setBrush(Qt::color1);
+    painter.drawPath(Outline());
+    return shape;
 }
 
 void Balloon::paintEvent(QPaintEvent*)

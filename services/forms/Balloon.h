@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <string>
 
+class QBitmap;
 class QPainterPath;
 
 namespace vellarno::forms {
@@ -54,6 +55,7 @@ private:
     Layout Measure() const;
     QFont HeadingFont() const;
     QPainterPath Outline() const;
+    QBitmap Silhouette() const;
 
     void Rest();
     void Rested();

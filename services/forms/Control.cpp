@@ -23,7 +23,7 @@ short CharacterCode(const QKeyEvent& Event)
     case Qt::Key_Return:
     case Qt::Key_Enter: return 13;
     case Qt::Key_Escape: return 27;
-    case Qt::Key_Backspace: return 8;
+    case Qt::Key_Backspace: return Event.modifiers().testFlag(Qt::ControlModifier) ? 127 : 8;
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
     case Qt::Key_Delete: return 0;

@@ -8,7 +8,8 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QPainter>
+#include <QPixmap>
+#include <QPointer>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
@@ -23,19 +24,6 @@ namespace {
 
 constexpr int MessagePictureSide = 32;
 
-QPixmap MessagePicture(const QWidget& Box, MessageStyle Style)
-{
-    const qreal scale = Box.devicePixelRatioF();
-    QPixmap picture(QSize(MessagePictureSide, MessagePictureSide) * scale);
-    picture.setDevicePixelRatio(scale);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    DrawPicture(painter, QRectF(0, 0, MessagePictureSide, MessagePictureSide),
-                Style == Critical ? QStringLiteral(":/pictures/error.svg")
-                                  : QStringLiteral(":/pictures/info.svg"));
-    return picture;
-}
-
 /// Platforms without a display may have the interface, but no connection behind it.
 xcb_connection_t* X11Connection()
 {
@@ -43,17 +31,33 @@ xcb_connection_t* X11Connection()
     return x11 ? x11->connection() : nullptr;
 }
 
+/// Where the session names no folder, or one that others may enter, the toolkit takes another and
+/// tells the terminal each time.
+QString RuntimeFolder()
+{
+    const auto usual =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    qInstallMessageHandler(usual);
+    return folder;
+}
+
 }
 
 void MsgBox(const std::string& Prompt, MessageStyle Style, const std::string& Title)
 {
-    QMessageBox box(QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.setText(QString::fromStdString(Prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")));
-    box.setWindowTitle(QString::fromStdString(Title));
-    box.setIconPixmap(MessagePicture(box, Style));
-    box.setStandardButtons(QMessageBox::Ok);
-    box.exec();
+    // The window under the box may go while it stands, and takes the box with it then.
+    const QPointer<QMessageBox> box = new QMessageBox(QApplication::activeWindow());
+    box->setTextFormat(Qt::PlainText);
+    box->setText(
+        QString::fromStdString(Prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+    box->setWindowTitle(QString::fromStdString(Title));
+    box->setIconPixmap(PicturePixmap(Style == Critical ? QStringLiteral(":/pictures/error.svg")
+                                                       : QStringLiteral(":/pictures/info.svg"),
+                                     MessagePictureSide, box->devicePixelRatioF()));
+    box->setStandardButtons(QMessageBox::Ok);
+    box->exec();
+    delete box;
 }
 
 void Beep()
@@ -119,7 +123,7 @@ bool Compositing()
 
 std::string PrivateFolder()
 {
-    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const QString runtime = RuntimeFolder();
     if (runtime.isEmpty()) return {};
     const QString folder = runtime + QLatin1String("/vellarno");
     const auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;

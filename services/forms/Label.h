@@ -15,6 +15,7 @@ class Label : public ControlOf<QLabel>
     Q_PROPERTY(int FontSize READ FontSize WRITE SetFontSize)
     Q_PROPERTY(bool FontBold READ FontBold WRITE SetFontBold)
     Q_PROPERTY(unsigned int ForeColor READ ForeColor WRITE SetForeColor)
+    Q_PROPERTY(bool Decoration READ Decoration WRITE SetDecoration)
     Q_PROPERTY(QString Legend READ Legend WRITE SetLegend)
     Q_PROPERTY(QString AccessibleTitle READ AccessibleTitle WRITE SetAccessibleTitle)
 
@@ -33,6 +34,9 @@ public:
     forms::Look GetLook() const { return look; }
     void SetLook(forms::Look Kind);
 
+    /// A screen reader passes over it: another control says the same, or there is nothing to say.
+    bool Decoration() const { return decoration; }
+    void SetDecoration(bool IsDecoration) { decoration = IsDecoration; }
     /// Name of the label that explains the figure: its box looks usable while that one is enabled.
     QString Legend() const { return legend; }
     void SetLegend(const QString& Name) { legend = Name; }
@@ -51,6 +55,7 @@ private:
     unsigned int foreColor = Black;
     unsigned int backColor = WindowBackground;
     bool backOpaque = false;
+    bool decoration = false;
     QString legend;
     QString accessibleTitle;
 };

@@ -13,6 +13,7 @@ namespace vellarno::forms {
 namespace {
 
 constexpr int TextPixels = 11;
+constexpr int IconSide = 48;
 constexpr qreal FieldRadius = 3;
 constexpr qreal PanelRadius = 6;
 constexpr qreal DisabledOpacity = 0.35;
@@ -85,7 +86,8 @@ void DrawLook(QPainter& Painter, const QRect& Area, Look Kind, bool Enabled, boo
         const auto ground = GroundOf(Area, Kind, Enabled, Focused);
         Painter.setPen(ground.Edge);
         Painter.setBrush(ground.Fill);
-        Painter.drawRoundedRect(QRectF(Area).adjusted(0.5, 0.5, -0.5, -0.5), ground.Radius,
+        const qreal inset = Kind == Look::Sheen ? 2 : 0.5; // the band's own edge stays in view
+        Painter.drawRoundedRect(QRectF(Area).adjusted(inset, inset, -inset, -inset), ground.Radius,
                                 ground.Radius);
     }
     Painter.restore();
@@ -114,6 +116,16 @@ void DrawPicture(QPainter& Painter, const QRectF& Area, const QString& Path, boo
     Painter.setOpacity(1);
 }
 
+QPixmap PicturePixmap(const QString& Path, int Side, qreal Scale)
+{
+    QPixmap picture(QSize(Side, Side) * Scale);
+    picture.setDevicePixelRatio(Scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    DrawPicture(painter, QRectF(0, 0, Side, Side), Path);
+    return picture;
+}
+
 QColor ColorOf(unsigned int Value)
 {
     switch (Value) {
@@ -137,6 +149,7 @@ void SetUpLook()
                       QStringLiteral("Nimbus Sans"), QStringLiteral("sans-serif")});
     font.setPixelSize(TextPixels);
     QApplication::setFont(font);
+    QApplication::setWindowIcon(PicturePixmap(QStringLiteral(":/pictures/vellarno.svg"), IconSide));
     QToolTip::setFont(font);
     QToolTip::setPalette(ToolkitPalette());
 }

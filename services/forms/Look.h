@@ -5,6 +5,7 @@
 #include <QPalette>
 
 class QPainter;
+class QPixmap;
 class QRect;
 class QRectF;
 class QString;
@@ -53,6 +54,9 @@ void DrawLook(QPainter& Painter, const QRect& Area, Look Kind, bool Enabled, boo
 
 /// Draws a picture of the program's resources, sharp at every scale.
 void DrawPicture(QPainter& Painter, const QRectF& Area, const QString& Path, bool Enabled = true);
+
+/// The picture as the toolkit takes it, at a side and a scale.
+QPixmap PicturePixmap(const QString& Path, int Side, qreal Scale = 1);
 
 /// A colour as the windows name it: red in the lowest byte, or with the top bit a system colour.
 QColor ColorOf(unsigned int Value);

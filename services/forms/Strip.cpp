@@ -10,7 +10,9 @@ namespace vellarno::forms {
 namespace {
 
 constexpr int TextInset = 4;
-constexpr int SeparatorInset = 4;
+// Level with what the parts hold, which leaves a margin below.
+constexpr int SeparatorTop = 3;
+constexpr int SeparatorBottom = 6;
 
 }
 
@@ -59,8 +61,8 @@ void Strip::paintEvent(QPaintEvent*)
     for (int i = 0; Has(i); ++i) {
         const Area area = PartArea(i);
         if (Has(i + 1))
-            painter.fillRect(area.Right - 1, SeparatorInset, 1, height() - 2 * SeparatorInset,
-                             palette::StripLine);
+            painter.fillRect(area.Right - 1, SeparatorTop, 1,
+                             height() - SeparatorTop - SeparatorBottom, palette::StripLine);
         painter.setPen(palette::Text);
         painter.drawText(QRect(area.Left, area.Top, area.Right - area.Left, area.Bottom)
                              .adjusted(TextInset, 0, -TextInset, 0),

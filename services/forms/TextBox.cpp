@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace vellarno::forms {
@@ -10,11 +11,25 @@ TextBox::TextBox(QWidget* Parent) : ControlOf<QLineEdit>(Parent)
 {
     setFrame(false);
     setAttribute(Qt::WA_OpaquePaintEvent); // its own ground covers it whole
+    setInputMethodHints(Qt::ImhDigitsOnly | Qt::ImhNoPredictiveText);
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (Change) Change();
     });
 }
 
+/// Alt or the system key with a character is no typing, though the widget would take it for that.
+void TextBox::keyPressEvent(QKeyEvent* Event)
+{
+    const auto modifiers = Event->modifiers();
+    const bool command = modifiers.testAnyFlags(Qt::AltModifier | Qt::MetaModifier) &&
+                         !modifiers.testFlag(Qt::ControlModifier);
+    if (command && !Event->text().isEmpty())
+        Event->ignore();
+    else
+        QLineEdit::keyPressEvent(Event);
+}
+
+// A text that is still being composed is kept out: it would take the place of what is selected.
 void TextBox::inputMethodEvent(QInputMethodEvent* Event)
 {
     QString committed;
@@ -22,8 +37,10 @@ void TextBox::inputMethodEvent(QInputMethodEvent* Event)
         auto code = static_cast<short>(character.unicode());
         if (FilterCharacter(code) != KeyFate::Swallowed) committed += QChar(code);
     }
-    Event->setCommitString(committed, Event->replacementStart(), Event->replacementLength());
-    QLineEdit::inputMethodEvent(Event);
+    if (committed.isEmpty()) return;
+    QInputMethodEvent commit;
+    commit.setCommitString(committed, Event->replacementStart(), Event->replacementLength());
+    QLineEdit::inputMethodEvent(&commit);
 }
 
 // The click that brings the focus leaves the selection which GotFocus made: it sets no caret.
@@ -45,7 +62,7 @@ void TextBox::mouseMoveEvent(QMouseEvent* Event)
 
 void TextBox::mouseReleaseEvent(QMouseEvent* Event)
 {
-    if (!arriving) QLineEdit::mouseReleaseEvent(Event);
+    if (!arriving || Event->button() != Qt::LeftButton) QLineEdit::mouseReleaseEvent(Event);
     arriving = false;
 }
 

@@ -28,6 +28,7 @@ public:
     void Select(int SelStart, int SelLength) { setSelection(SelStart, SelLength); }
 
 protected:
+    void keyPressEvent(QKeyEvent* Event) override;
     void inputMethodEvent(QInputMethodEvent* Event) override;
     void focusInEvent(QFocusEvent* Event) override;
     void mousePressEvent(QMouseEvent* Event) override;

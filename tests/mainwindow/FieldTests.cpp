@@ -190,6 +190,17 @@ TEST_F(Fields, TextThatComesPastTheKeys)
     EXPECT_EQ(Texts(txtTime), "00 00 00 00 00 00");
 }
 
+TEST_F(Fields, CommandKeysTypeNothing)
+{
+    EnterTimes("112233", "");
+    Click(txtTime[1]);
+    for (const auto modifier : {Qt::AltModifier, Qt::MetaModifier, Qt::ControlModifier})
+        for (const auto key : {Qt::Key_K, Qt::Key_5, Qt::Key_V, Qt::Key_Backspace}) {
+            EXPECT_EQ(BeepsOf([&] { Press(form, key, modifier); }), 0) << key;
+            EXPECT_EQ(txtTime[1].Text(), "22") << key;
+        }
+}
+
 TEST_F(Fields, EveryChangeClearsTheResults)
 {
     Choose(Dates);

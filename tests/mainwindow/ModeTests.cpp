@@ -1,5 +1,7 @@
 #include "tests/mainwindow/MainWindow.h"
 
+#include <QTimer>
+
 namespace vellarno::test {
 namespace {
 
@@ -136,6 +138,31 @@ TEST_F(Modes, WorkedByTheKeyboardAlone)
     Press(form, Qt::Key_Tab);
     Press(form, Qt::Key_Space);
     EXPECT_EQ(Captions(lblDati, 0, 5), "00 11 30 01 30 00");
+}
+
+TEST_F(Modes, AnotherModeChosenWhileTheSoundServesEventsWins)
+{
+    for (const int first : {Times, Moments, Dates})
+        for (const int second : {Times, Moments, Dates}) {
+            if (first == second) continue;
+            const int before = 3 - first - second;
+            Choose(before);
+            QTimer::singleShot(0, &form, [&] { Choose(second); });
+            Choose(first);
+            EXPECT_EQ(Outcome(), expected[second]) << before << first << second;
+        }
+}
+
+TEST_F(Modes, TheTabKeyGoesThroughTheWindowInOrder)
+{
+    Choose(Moments);
+    std::string order;
+    for (int step = 0; step < 13; ++step) {
+        order += Focus().empty() ? "button" : Focus() + ", ";
+        Press(form, Qt::Key_Tab);
+    }
+    EXPECT_EQ(order, "data 0, data 1, data 2, data 3, data 4, data 5, time 0, time 1, time 2, "
+                     "time 3, time 4, time 5, button");
 }
 
 TEST_F(Modes, ResultsAreReadAloudWithTheirNames)
