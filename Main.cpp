@@ -1,7 +1,11 @@
 #include "mainwindow/frmMain.h"
 #include "services/App.h"
+#include "services/GenericBas.h"
 #include "services/Platform.h"
+#include "services/PrivateFile.h"
 #include "services/forms/Application.h"
+
+#include <cstdlib>
 
 namespace vellarno {
 
@@ -16,6 +20,8 @@ int Main(forms::Application& Application)
                         App::Title);
         return 0;
     }
+    // A lost display ends the process from within the toolkit, past the window's own end.
+    std::atexit([] { DeletePrivateFile(GetTempDirectory() + HelpFileName); });
     frmMain window;
     Application.OnEndRequest([&window] { window.Close(); });
     window.Show();

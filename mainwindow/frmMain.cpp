@@ -53,6 +53,7 @@ void frmMain::Connect()
 
     cmdNowData.Connect(&CommandButton::Click, this, &frmMain::cmdNowData_Click);
     hscDataScroll.Change = [this] { hscDataScroll_Change(); };
+    hscDataScroll.KeyPress = [this](short& KeyAscii) { hscDataScroll_KeyPress(KeyAscii); };
     txtCalMeseAnno.GotFocus = [this] { txtCalMeseAnno_GotFocus(); };
     GIORNO.Connect(&Label::MouseDown, this, &frmMain::GIORNO_MouseDown);
     GIORNO.Connect(&Label::MouseUp, this, &frmMain::GIORNO_MouseUp);

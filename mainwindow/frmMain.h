@@ -82,6 +82,7 @@ private:
     int CalMese = 0;      ///< month on show in the calendar, 1 to 12
     int CalAnno = 0;      ///< year on show in the calendar
     int CalCampo = 0;     ///< the entry that the calendar serves: 0 the start, 1 the end
+    int CalGiorno = 0;    ///< day that is being typed over the calendar, 0 none
     int UltimoGiorno = 0; ///< day of the month of the strip's last full update
     std::array<bool, 9> BalloonShown{};
     std::optional<StatusBar> StatusStrip;
@@ -135,6 +136,9 @@ private:
     void ShowCalendar(int Index);
     void HideCalendar();
     void hscDataScroll_Change();
+    void hscDataScroll_KeyPress(short& KeyAscii);
+    int TypedCell() const;
+    void MarkCell(int Index);
     void txtCalMeseAnno_GotFocus();
     void FillCalendar(int Mese, int Anno);
     void FillDay(forms::Label& Cell, int Serial, int Mese, int MondayNumber);

@@ -68,6 +68,8 @@ void frmMain::ShowCalendar(int Index)
         cell.SetMousePointer(forms::CustomPointer);
         cell.SetMouseIcon(resources::HandCursor);
     }
+    hscDataScroll.SetMousePointer(forms::CustomPointer);
+    hscDataScroll.SetMouseIcon(resources::HandCursor);
     HideCalendar();
     shpShadow.Move(picCalendario.Left() + ShadowOffset, picCalendario.Top() + ShadowOffset,
                    picCalendario.Width(), picCalendario.Height());
@@ -104,6 +106,35 @@ void frmMain::hscDataScroll_Change()
     FillCalendar(CalMese, CalAnno);
 }
 
+/// By the keyboard a day is typed, which marks it, and taken with Enter.
+void frmMain::hscDataScroll_KeyPress(short& KeyAscii)
+{
+    constexpr short Enter = 13;
+    if (KeyAscii == Enter && GIORNO.Has(TypedCell())) {
+        GIORNO_Click(TypedCell());
+    } else if (KeyAscii >= '0' && KeyAscii <= '9') {
+        CalGiorno = CalGiorno * 10 + (KeyAscii - '0');
+        if (!GIORNO.Has(TypedCell())) CalGiorno = KeyAscii - '0'; // no such day: another begins
+        MarkCell(TypedCell());
+    }
+}
+
+/// The cell of the day that is being typed, 0 if the month has no such day.
+int frmMain::TypedCell() const
+{
+    const int first = CLng(DateSerial(CalAnno, CalMese, 1));
+    const int cell = Weekday(first, 2) + CalGiorno - 1;
+    return CalGiorno > 0 && Month(first + CalGiorno - 1) == CalMese ? cell : 0;
+}
+
+void frmMain::MarkCell(int Index)
+{
+    for (auto& cell : GIORNO) cell.SetBackOpaque(false);
+    if (!GIORNO.Has(Index)) return;
+    GIORNO[Index].SetBackOpaque(true);
+    GIORNO[Index].SetBackColor(forms::ActiveBorder);
+}
+
 void frmMain::txtCalMeseAnno_GotFocus()
 {
     hscDataScroll.SetFocus();
@@ -116,6 +147,8 @@ void frmMain::FillCalendar(int Mese, int Anno)
     const int monday = first - Weekday(first, 2) + 1;
     const int easterMonday = EasterDate(Year(monday)) + 1;
     shpOggi.SetVisible(false);
+    CalGiorno = 0;
+    MarkCell(0);
     int serial = monday;
     for (auto& cell : GIORNO) FillDay(cell, serial++, Mese, easterMonday);
     const int today = static_cast<int>(Date()) - monday + 1;
@@ -140,8 +173,7 @@ void frmMain::FillDay(forms::Label& Cell, int Serial, int Mese, int MondayNumber
 
 void frmMain::GIORNO_MouseDown(int Index)
 {
-    GIORNO[Index].SetBackOpaque(true);
-    GIORNO[Index].SetBackColor(forms::ActiveBorder);
+    MarkCell(Index);
 }
 
 void frmMain::GIORNO_MouseUp(int Index)

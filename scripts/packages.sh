@@ -3,7 +3,7 @@
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev qt6-svg-dev libcanberra-dev
   libxcb1-dev qt6-translations-l10n fonts-liberation"
 DISPLAY_PACKAGES="xvfb openbox xdotool imagemagick"
-TEST_PACKAGES="libgtest-dev"
+TEST_PACKAGES="libgtest-dev python3 x11-utils"
 BENCH_PACKAGES="libbenchmark-dev"
 PACKAGE_PACKAGES="dpkg-dev desktop-file-utils appstream lintian"
 PEER_PACKAGES="libxcb-damage0-dev dbus-daemon python3 speedcrunch galculator qalculate-gtk"

@@ -38,8 +38,9 @@ Platform* replacement = nullptr;
 
 Platform& System()
 {
+    if (replacement) return *replacement;
     static Desktop desktop;
-    return replacement ? *replacement : desktop;
+    return desktop;
 }
 
 void SetPlatform(Platform* Other)

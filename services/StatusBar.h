@@ -25,7 +25,7 @@ public:
     /// is.
     bool Create(forms::Form& frmParent);
     /// The strip, or nullptr before Create.
-    forms::Control* hwnd() const { return strip; }
+    forms::Control* hwnd() const { return strip.data(); }
 
     /// @param lStyle  drawing bits above the lowest byte; all parts look alike here.
     void SetText(std::int16_t iPart, const std::string& sText, std::int32_t lStyle = 0);

@@ -29,10 +29,22 @@ void NoteSignal(int)
 }
 
 /// Where the session offers both, X11: on Wayland a program can neither pin nor place its windows.
-void PreferX11()
+/// The programs that this one starts make their own choice.
+class PreferX11
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
-}
+public:
+    PreferX11()
+    {
+        if (!chosen) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    }
+    ~PreferX11()
+    {
+        if (!chosen) qunsetenv("QT_QPA_PLATFORM");
+    }
+
+private:
+    const bool chosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+};
 
 /// Stands in while the toolkit looks for a display: it complains of each kind in turn, also where
 /// the next one is there, and aborts after the last.
@@ -57,10 +69,12 @@ struct Application::Parts
 
 Application::Application(int& ArgumentCount, char** Arguments)
 {
-    PreferX11();
-    const auto usual = qInstallMessageHandler(TellNoDisplay);
-    parts = std::make_unique<Parts>(ArgumentCount, Arguments);
-    qInstallMessageHandler(usual);
+    {
+        const PreferX11 choice;
+        const auto usual = qInstallMessageHandler(TellNoDisplay);
+        parts = std::make_unique<Parts>(ArgumentCount, Arguments);
+        qInstallMessageHandler(usual);
+    }
     QApplication::setApplicationName(QStringLiteral("vellarno"));
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(QStringLiteral("vellarno"));
@@ -87,11 +101,11 @@ void Application::Quit()
 void Application::OnEndRequest(std::function<void()> Handler)
 {
     parts->end = std::move(Handler);
-    QObject::connect(&parts->application, &QGuiApplication::commitDataRequest,
-                     [this](QSessionManager& session) {
-                         session.setRestartHint(QSessionManager::RestartNever);
-                         parts->end();
-                     });
+    // The session asks first and may be called off; when it does end, the toolkit closes the
+    // windows.
+    QObject::connect(
+        &parts->application, &QGuiApplication::commitDataRequest,
+        [](QSessionManager& session) { session.setRestartHint(QSessionManager::RestartNever); });
     if (pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) return;
     parts->signals = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
     QObject::connect(parts->signals.get(), &QSocketNotifier::activated, [this] {
@@ -100,8 +114,7 @@ void Application::OnEndRequest(std::function<void()> Handler)
     });
     struct sigaction action = {};
     action.sa_handler = NoteSignal;
-    sigaction(SIGTERM, &action, nullptr);
-    sigaction(SIGINT, &action, nullptr);
+    for (const int request : {SIGTERM, SIGINT, SIGHUP}) sigaction(request, &action, nullptr);
 }
 
 }

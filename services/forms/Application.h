@@ -17,7 +17,8 @@ public:
     /// Ends Run, also out of a modal box.
     static void Quit();
 
-    /// Called on SIGTERM and SIGINT, between other events, and when the desktop session ends.
+    /// Called on SIGTERM, SIGINT and SIGHUP, between other events. At the end of the desktop
+    /// session the windows are closed as by the user.
     void OnEndRequest(std::function<void()> Handler);
 
 private:

@@ -148,8 +148,9 @@ bool Control::AfterEvent(QEvent& Event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
-        // A control may have been disabled while the button was down on it.
-        if (self.isEnabled()) TellMouse(static_cast<QMouseEvent&>(Event));
+        // A control may have been disabled while the button was down on it, and events may still
+        // wait when their window has been closed.
+        if (self.isEnabled() && self.isVisible()) TellMouse(static_cast<QMouseEvent&>(Event));
         // What happened over a control is not told to the window behind it as well.
         Event.accept();
         return true;

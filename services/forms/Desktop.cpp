@@ -37,7 +37,7 @@ QString RuntimeFolder()
 {
     const auto usual =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     qInstallMessageHandler(usual);
     return folder;
 }
@@ -87,8 +87,9 @@ void SetScreenPointer(bool Hourglass)
 bool OpenAddress(const std::string& Address)
 {
     const QString address = QString::fromStdString(Address);
-    return QDesktopServices::openUrl(address.startsWith('/') ? QUrl::fromLocalFile(address)
-                                                             : QUrl(address));
+    const QFileInfo file(address);
+    return QDesktopServices::openUrl(file.exists() ? QUrl::fromLocalFile(file.absoluteFilePath())
+                                                   : QUrl(address));
 }
 
 bool StartDetached(const std::string& Program, const std::vector<std::string>& Arguments)

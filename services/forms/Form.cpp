@@ -24,7 +24,7 @@ Qt::WindowFlags FlagsOf(FormBorder Border)
                                    Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     switch (Border) {
     case FormBorder::FixedSingle: return Qt::Window | framed | Qt::WindowMinimizeButtonHint;
-    case FormBorder::FixedDialog: return Qt::Dialog | framed;
+    case FormBorder::FixedDialog:
     case FormBorder::FixedToolWindow: return Qt::Dialog | framed;
     }
     return Qt::Window;
@@ -134,8 +134,10 @@ Control* Form::ActiveControl() const
 std::vector<Control*> Form::Controls() const
 {
     std::vector<Control*> controls;
-    for (QWidget* child : findChildren<QWidget*>())
-        if (auto* control = dynamic_cast<Control*>(child)) controls.push_back(control);
+    for (QWidget* child : findChildren<QWidget*>()) {
+        auto* control = dynamic_cast<Control*>(child);
+        if (control && child->window() == this) controls.push_back(control); // not an owned form's
+    }
     return controls;
 }
 
@@ -177,7 +179,7 @@ void Form::keyPressEvent(QKeyEvent* Event)
 void Form::mouseMoveEvent(QMouseEvent* Event)
 {
     QWidget::mouseMoveEvent(Event);
-    if (MouseMove) MouseMove();
+    if (MouseMove && isVisible()) MouseMove();
 }
 
 void Form::paintEvent(QPaintEvent* Event)

@@ -104,7 +104,7 @@ public:
     void Set(FormClass& Referred) { form = &Referred; }
     /// Whether the window is still there and on screen.
     bool Open() const { return form && form->isVisible(); }
-    FormClass* operator->() const { return form; }
+    FormClass* operator->() const { return form.data(); }
 
 private:
     QPointer<FormClass> form;

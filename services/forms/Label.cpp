@@ -48,8 +48,7 @@ void Label::SetForeColor(unsigned int Value)
 
 void Label::SetBackOpaque(bool Opaque)
 {
-    backOpaque = Opaque;
-    update();
+    if (std::exchange(backOpaque, Opaque) != Opaque) update();
 }
 
 void Label::SetBackColor(unsigned int Value)

@@ -3,8 +3,9 @@
 #include "services/forms/Look.h"
 #include <QKeyEvent>
 
+#include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QWheelEvent>
@@ -12,6 +13,21 @@
 namespace vellarno::forms {
 
 namespace {
+
+constexpr auto Arrows = {QStyle::SC_ScrollBarSubLine, QStyle::SC_ScrollBarAddLine};
+
+/// The arrows are as wide as the bar is high, so that no bare track shows beside the label.
+class SquareArrows : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric Which, const QStyleOption* Option,
+                    const QWidget* Widget) const override
+    {
+        return Which == PM_ScrollBarExtent && Widget
+                   ? Widget->height()
+                   : QProxyStyle::pixelMetric(Which, Option, Widget);
+    }
+};
 
 constexpr qreal ArrowWidth = 4;
 constexpr qreal ArrowHeight = 8;
@@ -30,6 +46,8 @@ void DrawArrow(QPainter& Painter, const QRectF& Area, qreal Direction, const QCo
 
 ScrollBar::ScrollBar(QWidget* Parent) : ControlOf<QScrollBar>(Parent)
 {
+    static SquareArrows arrows;
+    setStyle(&arrows);
     setOrientation(Qt::Horizontal);
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QAbstractSlider::valueChanged, this, [this] {
@@ -48,30 +66,51 @@ void ScrollBar::keyPressEvent(QKeyEvent* Event)
         QScrollBar::keyPressEvent(Event);
 }
 
+QRect ScrollBar::ArrowArea(QStyle::SubControl Arrow) const
+{
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    return style()->subControlRect(QStyle::CC_ScrollBar, &option, Arrow, this);
+}
+
 /// Two flat arrows and nothing between them: a label stands there.
 void ScrollBar::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    QStyleOptionSlider option;
-    initStyleOption(&option);
-    for (const auto arrow : {QStyle::SC_ScrollBarSubLine, QStyle::SC_ScrollBarAddLine}) {
-        const QRectF area = style()->subControlRect(QStyle::CC_ScrollBar, &option, arrow, this);
-        const bool pressed =
-            option.activeSubControls == arrow && option.state & QStyle::State_Sunken;
+    for (const auto arrow : Arrows) {
+        const QRectF area = ArrowArea(arrow);
         painter.setPen(hasFocus() ? palette::Accent : palette::PanelEdge);
-        painter.setBrush(pressed ? palette::BandBottom : palette::Panel);
+        painter.setBrush(pressed == arrow ? palette::BandBottom : palette::Panel);
         painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
         DrawArrow(painter, area, arrow == QStyle::SC_ScrollBarAddLine ? 1 : -1, palette::Accent);
     }
 }
 
-/// One notch of the wheel is one step, whatever the desktop scrolls a text by.
+void ScrollBar::mousePressEvent(QMouseEvent* Event)
+{
+    for (const auto arrow : Arrows)
+        if (ArrowArea(arrow).contains(Event->position().toPoint())) pressed = arrow;
+    QScrollBar::mousePressEvent(Event);
+    update();
+}
+
+void ScrollBar::mouseReleaseEvent(QMouseEvent* Event)
+{
+    pressed = QStyle::SC_None;
+    QScrollBar::mouseReleaseEvent(Event);
+    update();
+}
+
+/// One notch of the wheel is one step, whatever the desktop scrolls a text by; a touchpad tells
+/// small parts of a notch.
 void ScrollBar::wheelEvent(QWheelEvent* Event)
 {
-    const int turn =
-        Event->angleDelta().y() != 0 ? Event->angleDelta().y() : -Event->angleDelta().x();
-    if (turn != 0) triggerAction(turn > 0 ? SliderSingleStepSub : SliderSingleStepAdd);
+    constexpr int Notch = QWheelEvent::DefaultDeltasPerStep;
+    const QPoint turn = Event->angleDelta();
+    turned += turn.y() != 0 ? turn.y() : -turn.x();
+    for (; turned >= Notch; turned -= Notch) triggerAction(SliderSingleStepSub);
+    for (; turned <= -Notch; turned += Notch) triggerAction(SliderSingleStepAdd);
     Event->accept();
 }
 

@@ -3,6 +3,7 @@
 #include "services/forms/Control.h"
 
 #include <QScrollBar>
+#include <QStyle>
 
 namespace vellarno::forms {
 
@@ -22,7 +23,15 @@ public:
 protected:
     void paintEvent(QPaintEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
+    void mousePressEvent(QMouseEvent* Event) override;
+    void mouseReleaseEvent(QMouseEvent* Event) override;
     void wheelEvent(QWheelEvent* Event) override;
+
+private:
+    QRect ArrowArea(QStyle::SubControl Arrow) const;
+
+    QStyle::SubControl pressed = QStyle::SC_None; ///< the arrow under the button that is down
+    int turned = 0;                               ///< of the wheel, less than a notch
 };
 
 }

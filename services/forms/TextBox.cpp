@@ -60,6 +60,12 @@ void TextBox::mouseMoveEvent(QMouseEvent* Event)
     if (!arriving) QLineEdit::mouseMoveEvent(Event);
 }
 
+// The first click may have passed the focus on.
+void TextBox::mouseDoubleClickEvent(QMouseEvent* Event)
+{
+    if (hasFocus()) QLineEdit::mouseDoubleClickEvent(Event);
+}
+
 void TextBox::mouseReleaseEvent(QMouseEvent* Event)
 {
     if (!arriving || Event->button() != Qt::LeftButton) QLineEdit::mouseReleaseEvent(Event);

@@ -168,6 +168,37 @@ TEST_F(Calendar, APickedDayIsWrittenLikeTypedText)
     EXPECT_EQ(desktop.Beeps, 0);
 }
 
+TEST_F(Calendar, ADayIsTypedAndTakenWithEnter)
+{
+    struct Case
+    {
+        const char* Keys;
+        const char* Texts;
+    };
+    for (const Case& c : {Case{"8", "08 02 2021   "}, Case{"28", "28 02 2021   "},
+                          Case{"29", "09 02 2021   "}, Case{"115", "05 02 2021   "}}) {
+        OpenAt("022021");
+        hscDataScroll.SetFocus();
+        Type(form, c.Keys);
+        EXPECT_TRUE(GIORNO[std::atoi(c.Texts)].BackOpaque()); // the 1st stands in the first cell
+        Press(form, Qt::Key_Return);
+        EXPECT_EQ(Texts(txtData), c.Texts) << c.Keys;
+        EXPECT_FALSE(IsOpen());
+        txtData[0].SetText("");
+    }
+}
+
+TEST_F(Calendar, ACellThatLeavesTheMonthUnderTheButtonIsNotLeftPressed)
+{
+    OpenAt("122026");
+    hscDataScroll.SetFocus();
+    MouseDown(GIORNO[4]);
+    Press(form, Qt::Key_Right);
+    MouseUp(GIORNO[4]);
+    EXPECT_FALSE(GIORNO[4].Enabled());
+    EXPECT_FALSE(GIORNO[4].BackOpaque());
+}
+
 TEST_F(Calendar, OpeningClearsTheResults)
 {
     EnterDates("01012005", "31122005");

@@ -55,15 +55,6 @@ TEST(Services, TheHandIsForWhatCanBePressed)
     }
 }
 
-TEST(Services, TheTemporaryFolderTakesAFileNameAtItsEnd)
-{
-    Recorder recorder;
-    recorder.TempFolder = "/run/user/1000/vellarno";
-    EXPECT_EQ(GetTempDirectory(), "/run/user/1000/vellarno/");
-    recorder.TempFolder = "";
-    EXPECT_EQ(GetTempDirectory(), "");
-}
-
 struct PrivateFolder : testing::Test
 {
     Folder runtime;
@@ -76,19 +67,17 @@ struct PrivateFolder : testing::Test
 
 TEST_F(PrivateFolder, LetsOnlyItsUserIn)
 {
-    for (int run = 0; run < 2; ++run) EXPECT_EQ(forms::PrivateFolder(), own.string());
+    for (int run = 0; run < 2; ++run) EXPECT_EQ(GetTempDirectory(), own.string() + '/');
     EXPECT_EQ(std::filesystem::status(own).permissions(), std::filesystem::perms::owner_all);
-    EXPECT_EQ(GetTempDirectory(), own.string() + '/');
 }
 
 TEST_F(PrivateFolder, IsNeverReachedThroughALink)
 {
-    const Folder trap;
-    std::filesystem::create_directory_symlink(trap.Path, own);
-    EXPECT_EQ(forms::PrivateFolder(), "");
-    std::filesystem::remove(own);
-    std::filesystem::create_symlink(runtime.Path / "nowhere", own);
-    EXPECT_EQ(forms::PrivateFolder(), "");
+    for (const auto& target : {std::filesystem::temp_directory_path(), runtime.Path / "nowhere"}) {
+        std::filesystem::create_symlink(target, own);
+        EXPECT_EQ(GetTempDirectory(), "");
+        std::filesystem::remove(own);
+    }
 }
 
 TEST(Services, FilesAreToldFromFolders)
@@ -120,18 +109,14 @@ TEST(Fade, EndsOpaqueAfterItsTime)
     Recorder recorder;
     recorder.IsComposited = true;
     Workbench form;
-    std::vector<double> seen;
-    QTimer sampling;
-    QObject::connect(&sampling, &QTimer::timeout, [&] { seen.push_back(form.windowOpacity()); });
-    sampling.start(50);
+    double early = 1;
+    QTimer::singleShot(200, [&] { early = form.windowOpacity(); });
     const auto start = Clock::now();
     FadeInForm(form);
     EXPECT_GE(Clock::now() - start, 738ms);
     EXPECT_TRUE(form.isVisible());
     EXPECT_EQ(form.windowOpacity(), 1);
-    ASSERT_GT(seen.size(), 3u) << "events are served meanwhile";
-    EXPECT_TRUE(std::ranges::is_sorted(seen));
-    EXPECT_LT(seen.front(), 0.5);
+    EXPECT_LT(early, 0.5) << "events are served meanwhile";
 }
 
 TEST(Fade, AWindowMayCloseMeanwhile)

@@ -101,16 +101,6 @@ void Click(forms::Control& Control)
     Button(QTest::MouseClick, Control.Widget(), MiddleOf(Control));
 }
 
-void DoubleClick(forms::Control& Control)
-{
-    Button(QTest::MouseDClick, Control.Widget(), MiddleOf(Control));
-}
-
-void RightClick(forms::Control& Control)
-{
-    Button(QTest::MouseClick, Control.Widget(), MiddleOf(Control), Qt::RightButton);
-}
-
 void ClickAt(forms::Form& Form, int X, int Y)
 {
     Button(QTest::MouseClick, Form, {X, Y});
@@ -148,8 +138,10 @@ void MoveTo(forms::Form& Form, int X, int Y)
 
 void PutPointer(forms::Form& Form, int X, int Y)
 {
-    QCursor::setPos(Form.mapToGlobal(QPoint(X, Y)));
-    Settle();
+    for (const int x : {X + 1, X}) { // a pointer that stands still tells nothing
+        QCursor::setPos(Form.mapToGlobal(QPoint(x, Y)));
+        Settle();
+    }
 }
 
 void Wheel(forms::Control& Control, bool Up)
@@ -226,12 +218,6 @@ std::vector<Balloon> ShownBalloons()
                          at.width(), at.height()});
     }
     return shown;
-}
-
-void SavePicture(QWidget& Widget, const std::string& Path)
-{
-    Settle();
-    Widget.grab().save(QString::fromStdString(Path));
 }
 
 }

@@ -30,8 +30,6 @@ void Press(forms::Form& Form, Qt::Key Key, Qt::KeyboardModifiers Modifiers = Qt:
 
 /// The left button, pressed and released over the middle of the control, or at a point of the form.
 void Click(forms::Control& Control);
-void DoubleClick(forms::Control& Control);
-void RightClick(forms::Control& Control);
 void ClickAt(forms::Form& Form, int X, int Y);
 void MouseDown(forms::Control& Control);
 void MouseUp(forms::Control& Control);
@@ -69,8 +67,5 @@ struct Balloon
 };
 /// All balloons that stand on the screen: there should never be more than one.
 std::vector<Balloon> ShownBalloons();
-
-/// Saves what the control or form shows as a picture.
-void SavePicture(QWidget& Widget, const std::string& Path);
 
 }

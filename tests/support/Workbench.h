@@ -2,8 +2,8 @@
 
 #include "services/forms/Form.h"
 
-#include <QVariant>
 #include <string>
+#include <utility>
 
 namespace vellarno::test {
 
@@ -11,57 +11,40 @@ namespace vellarno::test {
 class Workbench : public forms::Form
 {
 public:
-    explicit Workbench(forms::FormBorder Border = forms::FormBorder::FixedSingle) : Form(Border)
-    {
-        setFixedSize(400, 300);
-    }
+    Workbench() : Form(forms::FormBorder::FixedSingle) { setFixedSize(400, 300); }
 
     template <class ControlClass>
-    ControlClass& Add(const std::string& Name, int Left, int Top, int Width = 80, int Height = 20,
+    ControlClass& Add(const char* Name, int Left = 0, int Top = 0, int Width = 80, int Height = 20,
                       forms::Control* Container = nullptr)
     {
         auto* made = new ControlClass(Container ? &Container->Widget() : this);
-        made->setObjectName(QString::fromStdString(Name));
+        made->setObjectName(QString::fromUtf8(Name));
         made->Move(Left, Top, Width, Height);
         return *made;
     }
 
-    /// Sets a property by its name and a text, as the layout files do.
-    static bool Set(forms::Control& Control, const char* Property, const char* Value)
+    /// An event handler that notes the entry.
+    auto Note(const std::string& Entry)
     {
-        return Control.Widget().setProperty(Property, QString::fromUtf8(Value));
+        return [this, Entry] { diary += (diary.empty() ? "" : ", ") + Entry; };
     }
-};
+    /// What has been noted since the last look, in order.
+    std::string Noted() { return std::exchange(diary, {}); }
 
-/// Notes what happens to a control, in order: "NAME got", "NAME lost", "NAME click", …
-class Diary
-{
-public:
-    std::vector<std::string> Entries;
-
-    void Follow(forms::Control& Control, const std::string& Name)
+    /// Notes the mouse and the focus: "NAME move", "NAME down", "NAME up", "NAME click", …
+    void Follow(forms::Control& Control)
     {
-        Control.GotFocus = Note(Name + " got");
-        Control.LostFocus = Note(Name + " lost");
-        Control.MouseMove = Note(Name + " move");
-        Control.MouseDown = Note(Name + " down");
-        Control.MouseUp = Note(Name + " up");
-        Control.Click = Note(Name + " click");
+        const std::string name = Control.Widget().objectName().toStdString();
+        Control.MouseMove = Note(name + " move");
+        Control.MouseDown = Note(name + " down");
+        Control.MouseUp = Note(name + " up");
+        Control.Click = Note(name + " click");
+        Control.GotFocus = Note(name + " got");
+        Control.LostFocus = Note(name + " lost");
     }
 
-    std::function<void()> Note(const std::string& Entry)
-    {
-        return [this, Entry] { Entries.push_back(Entry); };
-    }
-
-    /// What has happened since the last look, parted by commas.
-    std::string Read()
-    {
-        std::string all;
-        for (const auto& entry : std::exchange(Entries, {}))
-            all += (all.empty() ? "" : ", ") + entry;
-        return all;
-    }
+private:
+    std::string diary;
 };
 
 }
