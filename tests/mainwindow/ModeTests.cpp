@@ -153,27 +153,5 @@ TEST_F(Modes, AnotherModeChosenWhileTheSoundServesEventsWins)
         }
 }
 
-TEST_F(Modes, TheTabKeyGoesThroughTheWindowInOrder)
-{
-    Choose(Moments);
-    std::string order;
-    for (int step = 0; step < 13; ++step) {
-        order += Focus().empty() ? "button" : Focus() + ", ";
-        Press(form, Qt::Key_Tab);
-    }
-    EXPECT_EQ(order, "data 0, data 1, data 2, data 3, data 4, data 5, time 0, time 1, time 2, "
-                     "time 3, time 4, time 5, button");
-}
-
-TEST_F(Modes, ResultsAreReadAloudWithTheirNames)
-{
-    EnterTimes("081530", "104540");
-    Click(cmdCalcola);
-    EXPECT_EQ(lblDati[3].AccessibleName(), "Ore: 02");
-    EXPECT_EQ(lblTotali[8].AccessibleName(), "Totale secondi: 9.010");
-    txtTime[0].SetText("");
-    EXPECT_EQ(lblDati[3].AccessibleName(), "Ore: ");
-}
-
 }
 }

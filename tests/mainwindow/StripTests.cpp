@@ -74,15 +74,5 @@ TEST_F(Strip, ANewDayIsKnownByItsNumberAlone)
     EXPECT_EQ(picBarra[5].PrintedText(), " giovedì  23 dic 2027");
 }
 
-TEST_F(Strip, PointersSayWhatCanBePressed)
-{
-    WaitForTick("14.05.09");
-    for (const auto& icon : picToolBarra) EXPECT_EQ(icon.MousePointer(), forms::CustomPointer);
-    for (int index = 0; index <= 4; ++index)
-        EXPECT_EQ(picBarra[index].MousePointer(), forms::HelpPointer);
-    EXPECT_EQ(picBarra[5].MousePointer(), forms::DefaultPointer);
-    EXPECT_EQ(picBarra[6].MousePointer(), forms::DefaultPointer);
-}
-
 }
 }

@@ -74,17 +74,6 @@ TEST_F(Toolbar, ThePinTurnsOverAndTheWindowStays)
     }
 }
 
-TEST_F(Toolbar, ThePinChangesNoOtherWindow)
-{
-    Click(imgOnTop);
-    Click(picToolBarra[3]);
-    auto* sums = Child<frmMiniCalc>();
-    ASSERT_TRUE(sums);
-    Click(imgOnTop);
-    EXPECT_FALSE(OnTop());
-    EXPECT_TRUE(sums->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
-}
-
 TEST_F(Toolbar, TheHelpPageIsWrittenWholeAndOpened)
 {
     for (int press = 0; press < 100; ++press) Click(picToolBarra[2]);
