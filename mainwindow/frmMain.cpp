@@ -74,10 +74,12 @@ void frmMain::Form_Load()
     imgOnTop.SetMousePointer(forms::CustomPointer);
     imgOnTop.SetMouseIcon(resources::HandCursor);
     imgOnTop.SetPicture(resources::Icon(201));
+    imgOnTop.SetPressed(false);
     BalloonTip.emplace();
     BalloonTip->SetStyle(1);
     BalloonTip->SetIcon(1);
     BalloonTip->SetDelayTime(20);
+    DescribeTotals();
     ShowCalendar(-1);
     imgGradiente.Move(0, -1, picOption.Width() - 1, picOption.Height() - 1);
     optDataTime[0].SetValue(true);

@@ -153,6 +153,8 @@ private:
     void cmdNowTime_Click(int Index);
 
     // Balloons
+    const char* MeaningOfTotal(int Index) const;
+    void DescribeTotals();
     void lblTotali_MouseMove(int Index);
     void CloseBalloons();
 

@@ -53,17 +53,28 @@ constexpr BalloonText Texts[] = {
 
 }
 
+const char* frmMain::MeaningOfTotal(int Index) const
+{
+    const BalloonText& text = Texts[Index];
+    return text.Body[text.Option == BalloonText::WholeDay    ? chkDayInt.Value()
+                     : text.Option == BalloonText::Saturdays ? chkWorkSat.Value()
+                                                             : 0];
+}
+
+// A balloon comes to the mouse alone: a screen reader finds its text with the figure.
+void frmMain::DescribeTotals()
+{
+    int index = 0;
+    for (auto& total : lblTotali) total.SetAccessibleDescription(MeaningOfTotal(index++));
+}
+
 void frmMain::lblTotali_MouseMove(int Index)
 {
     const auto at = static_cast<std::size_t>(Index);
     if (BalloonShown[at]) return;
     BalloonShown[at] = true;
-    const BalloonText& text = Texts[at];
-    const int option = text.Option == BalloonText::WholeDay    ? chkDayInt.Value()
-                       : text.Option == BalloonText::Saturdays ? chkWorkSat.Value()
-                                                               : 0;
-    BalloonTip->SetTitle(text.Title);
-    BalloonTip->SetTipText(text.Body[option]);
+    BalloonTip->SetTitle(Texts[at].Title);
+    BalloonTip->SetTipText(MeaningOfTotal(Index));
     BalloonTip->Create(*this, OnTopFlag);
 }
 

@@ -83,6 +83,7 @@ void frmMain::EnableMode(int Index)
 
 void frmMain::chkDayInt_Click()
 {
+    DescribeTotals();
     PlayResSound(ClickSound);
     if (!optDataTime[Dates].Value()) return; // the mode was left while it sounded
     txtTime[3].SetText(chkDayInt.Value() == 1 ? "24" : "00");
@@ -94,6 +95,7 @@ void frmMain::chkDayInt_Click()
 
 void frmMain::chkWorkSat_Click()
 {
+    DescribeTotals();
     PlayResSound(ClickSound);
     SaturdayIsHoliday = chkWorkSat.Value() == 1;
     const unsigned int color = SaturdayIsHoliday ? forms::PureRed : forms::Black;

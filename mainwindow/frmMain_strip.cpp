@@ -64,8 +64,9 @@ void frmMain::Timer1_Timer()
         UltimoGiorno = Day(Date());
         UpdateStatusStrip();
     }
-    picBarra[ClockPanel].Cls();
     const std::string time = Format(Now(), "hh.mm.ss");
+    if (picBarra[ClockPanel].PrintedText() == time) return; // two ticks or three in a second
+    picBarra[ClockPanel].Cls();
     PrintCentred(picBarra[ClockPanel], time);
     picBarra[ClockPanel].SetAccessibleName("Ora: " + time);
 }

@@ -40,6 +40,7 @@ void frmMain::imgOnTop_Click()
 {
     OnTopFlag = !OnTopFlag;
     imgOnTop.SetPicture(resources::Icon(OnTopFlag ? 202 : 201));
+    imgOnTop.SetPressed(OnTopFlag);
     SetAlwaysOnTop(*this, OnTopFlag);
 }
 

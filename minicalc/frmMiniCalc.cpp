@@ -36,6 +36,14 @@ constexpr std::array HelpTexts = {
     "Digitare i trimestri che si vogliono sommare o sottrarre alla data iniziale,\r\n"
     " e premere il pulsante uguale"};
 
+/// Plays the click of an option.
+/// @return false if another one of its group was chosen while it sounded: that one has done all.
+bool PlayClickOf(const forms::OptionButton& Option)
+{
+    PlayResSound(ClickSound);
+    return Option.Value();
+}
+
 constexpr const char* OperationName(int Index)
 {
     return Index == 0 ? "Somma" : "Sottrai";
@@ -90,8 +98,7 @@ void frmMiniCalc::Form_Load()
     if (OnTopFlag) SetAlwaysOnTop(*this, true);
     HelpIndexDate = FirstHelpOfUnits;
     HelpIndexTime = 0;
-    SetHelpTitle(TimeSide);
-    SetHelpText(HelpIndexTime);
+    ShowHelp();
     FadeInForm(*this); // last: the window can be used, and closed, while it fades in
 }
 
@@ -120,43 +127,48 @@ void frmMiniCalc::optBase_Click(int Index)
 {
     for (forms::PictureBox& panel : picBase) panel.SetVisible(false);
     picBase[Index].SetVisible(true);
-    PlayResSound(ClickSound);
-    SetHelpText(Index == DateSide ? HelpIndexDate : HelpIndexTime);
-    SetHelpTitle(Index);
+    if (!PlayClickOf(optBase[Index])) return;
+    ShowHelp();
     cmdClear_Click();
 }
 
 void frmMiniCalc::optFormat_Click(int Index)
 {
-    PlayResSound(ClickSound);
+    if (!PlayClickOf(optFormat[Index])) return;
     const TimeFormat& format = TimeFormats[Index];
     txtCalc[4].SetMaxLength(format.Digits);
     txtCalc[5].SetMaxLength(format.Digits);
     lblTime[1].SetCaption(format.Legend);
-    SetHelpText(Index);
     HelpIndexTime = Index;
+    ShowHelp();
     cmdClear_Click();
 }
 
 void frmMiniCalc::optTipoDati_Click(int Index)
 {
-    PlayResSound(ClickSound);
+    if (!PlayClickOf(optTipoDati[Index])) return;
     lblTime[5].SetCaption(std::string(DateUnits[Index].Name));
     HelpIndexDate = FirstHelpOfUnits + Index;
-    SetHelpText(HelpIndexDate);
+    ShowHelp();
     cmdClear_Click();
 }
 
 void frmMiniCalc::optSomma_Click(int Index)
 {
-    PlayResSound(ClickSound);
-    lblTime[3].SetCaption(OperationName(Index));
+    if (PlayClickOf(optSomma[Index])) lblTime[3].SetCaption(OperationName(Index));
 }
 
 void frmMiniCalc::optSommaData_Click(int Index)
 {
-    PlayResSound(ClickSound);
-    lblTime[7].SetCaption(OperationName(Index));
+    if (PlayClickOf(optSommaData[Index])) lblTime[7].SetCaption(OperationName(Index));
+}
+
+/// Title and text belong to the side on screen, also where it was left while an option sounded.
+void frmMiniCalc::ShowHelp()
+{
+    const int side = optBase[DateSide].Value() ? DateSide : TimeSide;
+    SetHelpTitle(side);
+    SetHelpText(side == DateSide ? HelpIndexDate : HelpIndexTime);
 }
 
 void frmMiniCalc::SetHelpTitle(int Index)

@@ -42,6 +42,7 @@ private:
     void optSomma_Click(int Index);
     void optSommaData_Click(int Index);
 
+    void ShowHelp();
     void SetHelpTitle(int Index);
     void SetHelpText(int HelpIndex);
 

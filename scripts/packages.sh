@@ -3,7 +3,8 @@
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev qt6-svg-dev libcanberra-dev
   libxcb1-dev qt6-translations-l10n fonts-liberation"
 DISPLAY_PACKAGES="xvfb openbox xdotool imagemagick"
-TEST_PACKAGES="libgtest-dev python3 x11-utils"
+TEST_PACKAGES="libgtest-dev tidy binutils python3 x11-utils
+  at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi"
 BENCH_PACKAGES="libbenchmark-dev"
 PACKAGE_PACKAGES="dpkg-dev desktop-file-utils appstream lintian"
 PEER_PACKAGES="libxcb-damage0-dev dbus-daemon python3 speedcrunch galculator qalculate-gtk"

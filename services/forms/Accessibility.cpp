@@ -1,28 +1,61 @@
 #include "services/forms/Accessibility.h"
 
+#include "services/forms/Balloon.h"
 #include "services/forms/Control.h"
-#include "services/forms/Image.h"
+#include "services/forms/Form.h"
 #include "services/forms/Label.h"
+#include "services/forms/PictureBox.h"
+#include "services/forms/Strip.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 
 namespace vellarno::forms {
 
 namespace {
 
+class WindowInterface : public QAccessibleWidget
+{
+public:
+    explicit WindowInterface(Form& Of)
+        : QAccessibleWidget(&Of, Of.windowType() == Qt::Dialog ? QAccessible::Dialog
+                                                               : QAccessible::Window)
+    {}
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.modal = widget()->isModal();
+        return state;
+    }
+};
+
 /// A label, picture or picture box: a button where a click does something.
 class PictureInterface : public QAccessibleWidget
 {
 public:
-    PictureInterface(QWidget& Widget, Control& Of, QAccessible::Role Passive)
-        : QAccessibleWidget(&Widget, Passive), control(Of)
-    {}
+    PictureInterface(QWidget& Widget, Control& Of) : QAccessibleWidget(&Widget), control(Of) {}
 
-    /// The interface may be older than the handler of the click.
+    /// The interface may be older than the handler of the click, and than what a box holds.
     QAccessible::Role role() const override
     {
-        return Acts(control) ? QAccessible::Button : QAccessibleWidget::role();
+        if (Acts(control)) return QAccessible::Button;
+        if (childCount() > 0) return QAccessible::Pane;
+        const auto* box = dynamic_cast<const PictureBox*>(&control);
+        const bool text = dynamic_cast<const Label*>(&control) || (box && box->HasPrint());
+        return text ? QAccessible::StaticText : QAccessible::Graphic;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        const auto* image = dynamic_cast<const Image*>(&control);
+        if (image && image->Pressed()) {
+            state.checkable = true;
+            state.checked = *image->Pressed();
+        }
+        return state;
     }
 
     QString text(QAccessible::Text Kind) const override
@@ -36,12 +69,20 @@ public:
 
     QStringList actionNames() const override
     {
-        return Acts(control) ? QStringList{pressAction()} : QStringList{};
+        return control.Enabled() && Acts(control) ? QStringList{pressAction()} : QStringList{};
     }
 
+    /// The press is answered before the click runs: a window that opens may stay for long.
     void doAction(const QString& Action) override
     {
-        if (Action == pressAction() && control.Enabled() && Acts(control)) control.Click();
+        const auto press = [&pressed = control] {
+            const QWidget& widget = pressed.Widget();
+            const QWidget* modal = QApplication::activeModalWidget();
+            const bool reachable = widget.isVisible() && (!modal || modal == widget.window());
+            if (reachable && pressed.Enabled() && Acts(pressed)) pressed.Click();
+        };
+        if (Action == pressAction())
+            QMetaObject::invokeMethod(widget(), press, Qt::QueuedConnection);
     }
 
 private:
@@ -57,10 +98,13 @@ private:
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* Object)
 {
-    if (auto* label = dynamic_cast<Label*>(Object))
-        return new PictureInterface(*label, *label, QAccessible::StaticText);
-    if (auto* image = dynamic_cast<Image*>(Object))
-        return new PictureInterface(*image, *image, QAccessible::Graphic);
+    if (auto* form = dynamic_cast<Form*>(Object)) return new WindowInterface(*form);
+    if (auto* label = dynamic_cast<Label*>(Object)) return new PictureInterface(*label, *label);
+    if (auto* image = dynamic_cast<Image*>(Object)) return new PictureInterface(*image, *image);
+    if (auto* strip = dynamic_cast<Strip*>(Object))
+        return new QAccessibleWidget(strip, QAccessible::StatusBar);
+    if (auto* balloon = dynamic_cast<Balloon*>(Object))
+        return new QAccessibleWidget(balloon, QAccessible::ToolTip);
     return nullptr;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QEvent>
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -66,9 +67,14 @@ public:
     std::string ToolTipText() const { return self.toolTip().toStdString(); }
     void SetToolTipText(const std::string& Text) { self.setToolTip(QString::fromStdString(Text)); }
     std::string AccessibleName() const { return self.accessibleName().toStdString(); }
+    /// A screen reader hears of each change.
     void SetAccessibleName(const std::string& Name)
     {
-        self.setAccessibleName(QString::fromStdString(Name));
+        if (Name != AccessibleName()) self.setAccessibleName(QString::fromStdString(Name));
+    }
+    void SetAccessibleDescription(const std::string& Text)
+    {
+        self.setAccessibleDescription(QString::fromStdString(Text).simplified());
     }
 
     /// Pixels.
@@ -116,6 +122,20 @@ private:
     friend class Form;
 };
 
+/// An event of a form or of one of its controls on its way. A form that closes meanwhile, as its
+/// handlers may serve other events, is destroyed once the last of them has ended.
+class EventUnderWay
+{
+public:
+    explicit EventUnderWay(QWidget& Receiver);
+    ~EventUnderWay();
+    EventUnderWay(const EventUnderWay&) = delete;
+    EventUnderWay& operator=(const EventUnderWay&) = delete;
+
+private:
+    const QPointer<Form> form;
+};
+
 /// Joins the common part of all controls to the Qt widget that does the work.
 template <class WidgetClass>
 class ControlOf : public WidgetClass, public Control
@@ -126,6 +146,7 @@ protected:
 
     bool event(QEvent* Event) override
     {
+        const EventUnderWay underWay(*this);
         if (BeforeEvent(*Event)) return true;
         const bool handled = WidgetClass::event(Event);
         return AfterEvent(*Event) || handled;

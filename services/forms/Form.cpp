@@ -37,6 +37,17 @@ Form::Form(FormBorder Border) : QWidget(nullptr, FlagsOf(Border)), border(Border
     setMouseTracking(true);
 }
 
+EventUnderWay::EventUnderWay(QWidget& Receiver) : form(dynamic_cast<Form*>(Receiver.window()))
+{
+    if (form) ++form->eventsUnderWay;
+}
+
+EventUnderWay::~EventUnderWay()
+{
+    if (form && --form->eventsUnderWay == 0 && form->closed && form->parentWidget())
+        form->deleteLater();
+}
+
 Form::~Form()
 {
     if (modalLoop) modalLoop->quit();
@@ -73,7 +84,6 @@ void Form::TakeOwner(Form* Owner)
 {
     if (!Owner || parentWidget() == Owner) return;
     setParent(Owner, windowFlags());
-    setAttribute(Qt::WA_DeleteOnClose);
 }
 
 void Form::Show(Form* Owner)
@@ -185,6 +195,12 @@ void Form::mouseMoveEvent(QMouseEvent* Event)
 void Form::paintEvent(QPaintEvent* Event)
 {
     QPainter(this).fillRect(Event->rect(), palette::Ground);
+}
+
+bool Form::event(QEvent* Event)
+{
+    const EventUnderWay underWay(*this);
+    return QWidget::event(Event);
 }
 
 void Form::closeEvent(QCloseEvent* Event)

@@ -68,6 +68,7 @@ public:
     }
 
 protected:
+    bool event(QEvent* Event) override;
     void closeEvent(QCloseEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
     void mouseMoveEvent(QMouseEvent* Event) override;
@@ -86,11 +87,13 @@ private:
     bool loaded = false;
     bool closed = false; ///< since it was last told to come up
     bool topmost = false;
+    int eventsUnderWay = 0;
     QPointer<QWidget> focused; ///< whose GotFocus was the last to run
     CommandButton* defaultButton = nullptr;
     CommandButton* cancelButton = nullptr;
     QEventLoop* modalLoop = nullptr;
     friend class Control;
+    friend class EventUnderWay;
 };
 
 /// Refers to a form that may be closed, and then destroyed, while events are served.

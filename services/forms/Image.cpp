@@ -1,5 +1,6 @@
 #include "services/forms/Image.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 namespace vellarno::forms {
@@ -8,6 +9,15 @@ void Image::SetPicturePath(const QString& Path)
 {
     picture = Path;
     update();
+}
+
+void Image::SetPressed(bool On)
+{
+    pressed = On;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 void Image::SetLook(forms::Look Kind)

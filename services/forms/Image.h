@@ -4,6 +4,7 @@
 #include "services/forms/Look.h"
 
 #include <QWidget>
+#include <optional>
 
 namespace vellarno::forms {
 
@@ -23,6 +24,9 @@ public:
 
     QString PicturePath() const { return picture; }
     void SetPicturePath(const QString& Path);
+    /// Whether a picture that stays pressed is so; nothing for one that doesn't.
+    std::optional<bool> Pressed() const { return pressed; }
+    void SetPressed(bool On);
     forms::Look GetLook() const { return look; }
     void SetLook(forms::Look Kind);
 
@@ -32,6 +36,7 @@ protected:
 
 private:
     QString picture;
+    std::optional<bool> pressed;
     forms::Look look = Look::Plain;
 };
 

@@ -7,7 +7,7 @@ namespace vellarno::forms {
 
 namespace {
 
-/// Qt's own exclusion would reach into the containers further down as well.
+/// Without a group, Qt's exclusion would reach into the containers further down as well.
 QButtonGroup& GroupOf(QWidget& Container)
 {
     auto* group = Container.findChild<QButtonGroup*>(QString(), Qt::FindDirectChildrenOnly);
@@ -29,7 +29,6 @@ int StepOf(int Key)
 
 OptionButton::OptionButton(QWidget* Parent) : ControlOf<QRadioButton>(Parent)
 {
-    setAutoExclusive(false);
     if (Parent) GroupOf(*Parent).addButton(this);
     connect(this, &QAbstractButton::toggled, this, [this](bool On) {
         if (On && Click) Click();

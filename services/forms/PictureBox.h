@@ -27,6 +27,7 @@ public:
     void Print(const std::string& Text);
     /// All that stands on the box, in the order of printing.
     std::string PrintedText() const;
+    bool HasPrint() const { return !printed.empty(); }
 
 protected:
     void paintEvent(QPaintEvent* Event) override;

@@ -3,251 +3,265 @@
 
 #include "services/forms/CommandButton.h"
 #include "services/forms/ControlArray.h"
-#include "services/forms/Desktop.h"
+#include "services/forms/Image.h"
 #include "services/forms/Label.h"
+#include "services/forms/OptionButton.h"
 #include "services/forms/PictureBox.h"
+#include "services/forms/ScrollBar.h"
 #include "services/forms/TextBox.h"
-#include "services/forms/Timer.h"
 
-#include <QThread>
-#include <QTimer>
-#include <QWindow>
+#include <QApplication>
 #include <gtest/gtest.h>
 
 namespace vellarno::test {
 namespace {
 
-using forms::ControlArray;
-using forms::Form;
-using forms::Label;
-using forms::PictureBox;
-using forms::TextBox;
+using namespace forms;
 
 struct Forms : testing::Test
 {
     Workbench form;
+    TextBox& box = form.Add<TextBox>("box", 10, 10);
+    TextBox& other = form.Add<TextBox>("other", 10, 40);
+    CommandButton& button = form.Add<CommandButton>("button", 10, 70);
+
+    Forms() { Open(form), box.SetFocus(); }
+    /// What is noted when the pointer comes to the control from afar and presses the button there.
+    std::string Over(const Control& Control)
+    {
+        MoveTo(form, 399, 299);
+        form.Noted();
+        Click(Control);
+        return form.Noted();
+    }
 };
 
-TEST_F(Forms, LoadOnceAndUnloadOnce)
+TEST_F(Forms, LoadOnceAndAreDestroyedOnceTheirEventsAreServed)
 {
-    auto& first = form.Add<TextBox>("first", 10, 10);
-    auto& chosen = form.Add<TextBox>("chosen", 10, 40);
-    chosen.GotFocus = form.Note("got");
-    form.Load = [&] {
-        form.Note(form.isVisible() ? "load seen" : "load")();
-        chosen.SetFocus();
-    };
-    form.Unload = form.Note("unload");
-    Open(form);
-    form.Show();
-    EXPECT_EQ(form.Noted(), "load, got") << "the focus set in Load is there when it comes up";
-    EXPECT_NE(form.ActiveControl(), &first);
-    form.Close();
-    form.Close();
-    EXPECT_EQ(form.Noted(), "unload");
-
-    Workbench hasty;
-    hasty.Load = [&] { hasty.Close(); };
-    hasty.Show();
-    EXPECT_FALSE(hasty.isVisible()) << "closed while it loaded";
+    auto* owned = new Workbench;
+    const QPointer<Form> watch = owned;
+    owned->Load = form.Note("load");
+    owned->Unload = form.Note("unload");
+    for (int twice = 0; twice < 2; ++twice) owned->Show(&form);
+    for (int twice = 0; twice < 2; ++twice) owned->Close();
+    EXPECT_EQ(form.Noted(), "load, unload");
+    EXPECT_TRUE(watch);
+    Settle();
+    EXPECT_FALSE(watch);
 }
 
-TEST_F(Forms, AnOwnedOneIsDestroyedAfterItsEventsAndAModalOneHoldsItsOwner)
+TEST_F(Forms, ChangeComesInsideAWriteAndNests)
 {
-    auto& box = form.Add<TextBox>("box", 10, 10);
-    Open(form);
-    for (const bool modal : {false, true}) {
-        auto* owned = new Workbench;
-        const QPointer<Form> watch = owned;
-        auto& close = owned->Add<forms::CommandButton>("close");
-        owned->SetCancelButton(close);
-        close.Click = [&] {
-            watch->Close();
-            form.Note(watch ? "there" : "gone")();
+    box.SetMaxLength(2);
+    box.Change = [&] {
+        form.Note('[' + box.Text())();
+        box.SetText(""); // raises the change again, which ends at the empty text
+        form.Note("]")();
+    };
+    for (const bool enabled : {true, false}) {
+        box.SetEnabled(enabled);
+        box.SetText("123");
+        EXPECT_EQ(form.Noted(), "[12, [, ], ]") << "cut to its length";
+        box.SetText("");
+        EXPECT_EQ(form.Noted(), "") << "an equal text is no change";
+    }
+}
+
+TEST_F(Forms, ACharacterPassesTheFormAndThenTheControl)
+{
+    box.SetMaxLength(7);
+    const auto replacing = [&](const char* Name, const std::map<short, short>& Replaced) {
+        return [this, Name, Replaced](short& KeyAscii) {
+            form.Note(Name + std::to_string(KeyAscii))();
+            if (Replaced.contains(KeyAscii)) KeyAscii = Replaced.at(KeyAscii);
         };
-        owned->Unload = form.Note("unload");
-        QTimer::singleShot(20, owned, [&] {
-            Type(form, "1");
-            Press(static_cast<Form&>(*watch), Qt::Key_Escape);
-        });
-        if (modal)
-            owned->ShowModal(form);
-        else
-            owned->Show(&form);
-        EXPECT_TRUE(WaitUntil([&] { return !watch; }));
-        EXPECT_EQ(form.Noted(), "unload, there");
-        EXPECT_EQ(box.Text(), "1") << "the owner of a modal window takes no key";
-    }
-}
-
-TEST_F(Forms, AllCloseTogetherThoughOneTakesAnotherAlong)
-{
-    auto* one = new Workbench;
-    auto* two = new Workbench;
-    one->Unload = [&] { delete std::exchange(two, nullptr); };
-    two->Unload = [&] { delete std::exchange(one, nullptr); };
-    for (Form* opened : std::initializer_list<Form*>{&form, one, two}) Open(*opened);
-    Form::UnloadAll();
-    EXPECT_FALSE(form.isVisible());
-    EXPECT_NE(one == nullptr, two == nullptr);
-    delete one;
-    delete two;
-}
-
-TEST_F(Forms, ArePinnedInPlace)
-{
-    form.SetTopmost(true); // before it is shown: it comes up pinned
-    Open(form);
-    const QRect place = form.geometry();
-    for (const bool on : {true, false, true}) {
-        form.SetTopmost(on);
-        Settle();
-        EXPECT_EQ(form.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint), on);
-        EXPECT_TRUE(form.isVisible());
-        EXPECT_EQ(form.geometry(), place);
-    }
-}
-
-TEST_F(Forms, ATickComesBetweenHandlersNotInsideThem)
-{
-    forms::Timer timer;
-    timer.Tick = form.Note("tick");
-    timer.Start(1);
-    form.Load = [&] {
-        QThread::msleep(20);
-        EXPECT_EQ(form.Noted(), "") << "a handler runs to its end";
-        forms::DoEvents();
-        EXPECT_NE(form.Noted(), "") << "unless it serves the events itself";
     };
-    form.Show();
-}
-
-TEST_F(Forms, ArraysHaveTheIndexesOfTheLayout)
-{
-    auto& inner = form.Add<PictureBox>("inner");
-    for (const char* name : {"txt_1", "txt_10", "txt_7", "txt_x", "txt_", "txts_2", "txt"})
-        form.Add<TextBox>(name);
-    form.Add<Label>("txt_3"); // another kind under the same name
-    form.Add<TextBox>("txt_12", 0, 0, 10, 10, &inner);
-    ControlArray<TextBox> boxes(form, "txt");
-    std::string found;
-    for (const auto& box : boxes) found += box.objectName().toStdString() + ' ';
-    EXPECT_EQ(found, "txt_1 txt_7 txt_10 txt_12 ");
-    EXPECT_THROW(boxes[3], std::out_of_range);
-
-    struct Window
-    {
-        std::string Seen;
-        void Pressed(int Index, short& KeyAscii)
-        {
-            Seen += std::to_string(Index) + char(KeyAscii);
-            KeyAscii = 'y';
-        }
-    } window;
-    boxes.Connect(&TextBox::KeyPress, &window, &Window::Pressed);
-    Open(form);
-    for (const int index : {10, 7}) {
-        boxes[index].SetFocus();
-        Type(form, "x");
-        EXPECT_EQ(boxes[index].Text(), "y");
+    form.KeyPress = replacing("form ", {{'y', 'c'}, {'z', 0}});
+    box.KeyPress = replacing("box ", {{'a', 0}, {'b', 1}, {'c', 'X'}});
+    for (const bool inputMethod : {false, true}) {
+        const auto enter = [&](const char* s) { inputMethod ? Commit(box, s) : Type(form, s); };
+        box.SetText("00");
+        box.Select(0, 2);
+        form.KeyPreview = false;
+        enter("c1a2b3yè");
+        EXPECT_EQ(box.Text(), "X123yè") << "a replaced key takes the selection's place";
+        form.Noted();
+        form.KeyPreview = true;
+        enter("yz9");
+        EXPECT_EQ(box.Text(), "X123yèX");
+        EXPECT_EQ(form.Noted(), "form 121, box 99, form 122, form 57, box 57");
     }
-    EXPECT_EQ(window.Seen, "10x7x");
-    boxes.SetEnabled(2, 10, false);
-    EXPECT_TRUE(boxes[1].Enabled() && !boxes[7].Enabled() && !boxes[10].Enabled());
 }
 
-TEST_F(Forms, LoadMakesALikenessOfElementNought)
+TEST_F(Forms, OnlyKeysWithACharacterRaiseKeyPress)
+{
+    box.KeyPress = [&](short& KeyAscii) { form.Note(std::to_string(KeyAscii))(); };
+    for (const QKeyCombination key : std::initializer_list<QKeyCombination>{
+             Qt::CTRL | Qt::Key_V, Qt::Key_Return, Qt::Key_Left, Qt::KeypadModifier | Qt::Key_Enter,
+             Qt::SHIFT | Qt::Key_Insert, Qt::Key_Escape, Qt::Key_Backspace, Qt::Key_F1,
+             Qt::CTRL | Qt::Key_Backspace, Qt::ALT | Qt::Key_5, Qt::Key_5, Qt::Key_Tab})
+        Press(form, key.key(), key.keyboardModifiers());
+    EXPECT_EQ(form.Noted(), "22, 13, 13, 27, 8, 127, 53");
+    EXPECT_EQ(form.ActiveControl(), &other);
+}
+
+TEST_F(Forms, TheFocusTellsBothControls)
+{
+    form.Follow();
+    Press(form, Qt::Key_Tab);
+    box.SetFocus();
+    for (int twice = 0; twice < 2; ++twice) button.SetFocus();
+    EXPECT_EQ(form.Noted(), "box lost, other got, other lost, box got, box lost, button got");
+    box.GotFocus = [&] { box.SetText("25"), box.Select(0, 2); };
+    Click(box);
+    EXPECT_EQ(box.SelLength(), 2) << "the click that brings the focus keeps the selection";
+    box.LostFocus = [&] { other.SetFocus(); };
+    form.Noted();
+    Click(button);
+    EXPECT_EQ(form.Noted(), "button move, other got, button down, button click, button up");
+    box.SetEnabled(false);
+    box.SetFocus();
+    EXPECT_EQ(form.ActiveControl(), &other) << "a disabled control takes none";
+}
+
+TEST_F(Forms, MenusAndOtherWindowsAreNoDeparture)
+{
+    form.Follow();
+    MouseAct{Click.Action, Qt::RightButton}(box);
+    ASSERT_TRUE(QApplication::activePopupWidget());
+    QApplication::activePopupWidget()->close();
+    Workbench window;
+    Open(window);
+    Open(form);
+    EXPECT_EQ(form.Noted(), "box move, box down");
+    Open(window);
+    other.SetFocus();
+    Open(form);
+    EXPECT_EQ(form.Noted(), "box lost, other got") << "what was chosen meanwhile is told on return";
+}
+
+TEST_F(Forms, ButtonsTakeEnterAndSpaceAndAnswerFromAnywhere)
+{
+    auto& cancel = form.Add<CommandButton>("cancel");
+    auto& third = form.Add<CommandButton>("third");
+    form.SetDefaultButton(button);
+    form.SetCancelButton(cancel);
+    for (auto* each : {&button, &cancel, &third})
+        each->Click = form.Note(each->objectName().toStdString());
+    for (Control* at : std::initializer_list<Control*>{&third, &box}) {
+        at->SetFocus();
+        for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape})
+            Press(form, key);
+    }
+    EXPECT_EQ(form.Noted(), "third, third, third, cancel, button, button, cancel");
+    button.SetEnabled(false);
+    box.clearFocus(); // nothing has it now
+    for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) Press(form, key);
+    EXPECT_EQ(form.Noted(), "cancel");
+}
+
+TEST_F(Forms, ADisabledControlsMouseBelongsToWhatLiesBehind)
+{
+    auto& panel = form.Add<PictureBox>("panel", 200, 0, 200, 100);
+    auto& below = form.Add<Image>("below", 220, 20);
+    auto& label = form.Add<Label>("label", 220, 20);
+    auto& inner = form.Add<Label>("inner", 20, 60, 40, 20, &panel);
+    form.Follow();
+    const std::pair<Control*, std::string> cases[] = {
+        {&label, "below move, below down, below up, below click"}, // a sibling
+        {&below, "panel move, panel down, panel up, panel click"},
+        {&inner, "panel move, panel down, panel up, panel click"},
+        {&box, "form move"},
+        {&panel, "form move"}};
+    for (const auto& [control, behind] : cases) {
+        control->SetEnabled(false);
+        EXPECT_EQ(Over(*control), behind);
+    }
+    for (Control* control : {&label, &inner}) control->SetEnabled(true);
+    EXPECT_EQ(Over(inner), "form move") << "a disabled container takes its controls along";
+    EXPECT_EQ(Over(label), "label move, label down, label up, label click");
+    MouseDown(label);
+    MouseUpAt(form, 399, 299);
+    EXPECT_EQ(form.Noted(), "label down, label move, label up") << "let go elsewhere";
+    label.MouseDown = [&] { label.SetEnabled(false); };
+    EXPECT_EQ(Over(label), "label move") << "disabled while it was pressed";
+}
+
+TEST_F(Forms, OptionsClickWhenTheValueTurnsTrue)
+{
+    auto& group = form.Add<PictureBox>("group", 200, 0, 200, 100);
+    auto& a = form.Add<OptionButton>("a", 10, 10, 80, 20, &group);
+    auto& b = form.Add<OptionButton>("b", 10, 40, 80, 20, &group);
+    auto& outside = form.Add<OptionButton>("outside", 10, 200);
+    a.Click = [&] { form.Note(b.Value() ? "a beside b" : "a")(); };
+    b.Click = [&] { form.Note(a.Value() ? "b beside a" : "b")(); };
+    for (int twice = 0; twice < 2; ++twice) a.SetValue(true);
+    for (int twice = 0; twice < 2; ++twice) Click(b);
+    Press(form, Qt::Key_Up);
+    outside.SetValue(true);
+    EXPECT_TRUE(a.Value());
+    EXPECT_EQ(form.Noted(), "a, b, a") << "by a write, by the mouse, by an arrow";
+}
+
+TEST_F(Forms, ScrollBarsChangeInsideAWriteAndStepByKey)
+{
+    auto& bar = form.Add<ScrollBar>("bar");
+    bar.setRange(0, 13);
+    bar.Change = [&] {
+        form.Note(std::to_string(bar.Value()))();
+        if (bar.Value() == 13) bar.SetValue(1);
+    };
+    for (const int value : {5, 5, 13}) bar.SetValue(value);
+    bar.SetFocus();
+    for (const auto key : {Qt::Key_Right, Qt::Key_Left, Qt::Key_Down}) Press(form, key);
+    Wheel(bar, true);
+    EXPECT_EQ(form.Noted(), "5, 13, 1, 2, 1, 2, 1");
+}
+
+TEST_F(Forms, ArraysAreSparseAndLoadMakesAHiddenLikenessOfElementNought)
 {
     auto& inner = form.Add<PictureBox>("inner");
     auto& model = form.Add<PictureBox>("pic_0", 7, 8, 51, 18, &inner);
-    model.SetToolTipText("Trimestre corrente");
-    model.SetFontSize(13);
-    model.SetLook(forms::Look::Panel);
-    model.SetPicture(":/pictures/info.svg");
-    model.SetMousePointer(forms::CustomPointer);
+    for (const char* name : {"pic_10", "pic_7", "pic_x", "pic_", "pics_2", "pic"})
+        form.Add<PictureBox>(name);
+    form.Add<Label>("pic_3"); // another kind
+    const std::pair<const char*, QString> given[] = {
+        {"Look", "Panel"},
+        {"Picture", ":/pictures/info.svg"},
+        {"FontSize", "13"},
+        {"toolTip", "Mese"},
+        {"enabled", "false"}}; // as a layout file names them
+    for (const auto& [name, value] : given) EXPECT_TRUE(model.setProperty(name, value)) << name;
+    model.SetMousePointer(CustomPointer);
     model.SetMouseIcon(101);
-    model.SetEnabled(false);
     ControlArray<PictureBox> pictures(form, "pic");
     PictureBox& made = pictures.Load(4);
-    EXPECT_EQ(&pictures[4], &form.Get<PictureBox>("pic_4"));
-    EXPECT_EQ(made.parentWidget(), &inner.Widget());
-    EXPECT_EQ(made.geometry(), model.geometry());
-    EXPECT_EQ(made.ToolTipText(), "Trimestre corrente");
-    EXPECT_EQ(made.FontSize(), 13);
-    EXPECT_EQ(made.GetLook(), forms::Look::Panel);
-    EXPECT_EQ(made.Picture(), ":/pictures/info.svg");
+    for (const auto& each : pictures) form.Note(each.objectName().toStdString())();
+    EXPECT_EQ(form.Noted(), "pic_0, pic_4, pic_7, pic_10");
+    EXPECT_THROW(pictures[3], std::out_of_range);
+    EXPECT_EQ(made.geometry(), QRect(7, 8, 51, 18));
+    for (const auto& [name, value] : given) EXPECT_EQ(made.property(name).toString(), value);
     EXPECT_EQ(made.cursor().shape(), Qt::PointingHandCursor);
-    EXPECT_FALSE(made.Enabled());
-    EXPECT_FALSE(made.Visible());
-
-    auto& label = form.Add<Label>("lbl_0");
-    label.SetCaption("Ora");
-    label.SetForeColor(forms::PureRed);
-    const Label& likeLabel = ControlArray<Label>(form, "lbl").Load(1);
-    EXPECT_EQ(likeLabel.Caption(), "Ora");
-    EXPECT_EQ(likeLabel.ForeColor(), forms::PureRed);
-}
-
-TEST_F(Forms, LayoutFilesSetPropertiesByNameAndText)
-{
-    auto& label = form.Add<Label>("label");
-    auto& box = form.Add<PictureBox>("box");
-    const auto set = [](QWidget& Widget, const char* Name, const char* Value) {
-        return Widget.setProperty(Name, QString::fromUtf8(Value));
-    };
-    EXPECT_TRUE(set(label, "Look", "Field") && set(box, "Look", "Band"));
-    EXPECT_EQ(label.GetLook(), forms::Look::Field);
-    EXPECT_EQ(box.GetLook(), forms::Look::Band);
-    EXPECT_TRUE(set(box, "Picture", ":/pictures/info.svg") && set(box, "FontSize", "17"));
-    EXPECT_EQ(box.Picture(), ":/pictures/info.svg");
-    EXPECT_EQ(box.FontSize(), 17);
-    EXPECT_TRUE(set(label, "ForeColor", "255"));
-    EXPECT_EQ(label.ForeColor(), forms::PureRed);
-}
-
-/// The first and the last column, and row, that hold any ink of what the control shows.
-QRect Ink(QWidget& Widget, int Scale = 1)
-{
-    QImage seen(Widget.size() * Scale, QImage::Format_Grayscale8);
-    seen.setDevicePixelRatio(Scale);
-    seen.fill(Qt::white);
-    Widget.render(&seen, {}, {}, QWidget::DrawChildren);
-    QRect ink;
-    for (int y = 0; y < seen.height(); ++y)
-        for (int x = 0; x < seen.width(); ++x)
-            if (qGray(seen.pixel(x, y)) < 128) ink |= QRect(x, y, 1, 1);
-    return ink;
+    EXPECT_TRUE(made.parentWidget() == &inner && !made.Visible());
 }
 
 TEST_F(Forms, APictureBoxKeepsWhatWasPrintedWhereItWasPrinted)
 {
-    auto& box = form.Add<PictureBox>("box", 10, 10, 120, 60);
-    Open(form);
-    box.SetCurrentX(40);
-    box.SetCurrentY(20);
-    box.Print("HH");
-    const QRect ink = Ink(box);
-    EXPECT_NEAR(ink.left(), 41, 1);
-    EXPECT_NEAR(ink.width(), box.TextWidth("HH") - 2, 2);
-    EXPECT_TRUE(ink.top() >= 20 && ink.bottom() < 34);
-    box.SetVisible(false);
-    form.showMinimized();
-    Settle();
-    form.showNormal();
-    box.SetVisible(true);
-    EXPECT_EQ(Ink(box), ink);
-    EXPECT_NEAR(Ink(box, 2).left(), 2 * ink.left(), 2) << "at twice the scale it is drawn anew";
-    EXPECT_NEAR(Ink(box, 2).width(), 2 * ink.width(), 3);
-
-    EXPECT_EQ(box.CurrentX(), 0);
-    EXPECT_GT(box.CurrentY(), 30) << "the next line is below";
-    box.Cls();
-    EXPECT_TRUE(Ink(box).isEmpty());
-    EXPECT_EQ(box.CurrentY(), 0);
-    const std::string wide(60, 'H');
-    box.SetCurrentX((box.Width() - box.TextWidth(wide)) / 2);
-    box.Print(wide);
-    EXPECT_TRUE(Ink(box).left() < 10 && Ink(box).right() > 110) << "clipped at both ends";
+    auto& picture = form.Add<PictureBox>("picture", 200, 10, 120, 60);
+    const auto seen = [&](const QRect& Area) { return picture.grab().toImage().copy(Area); };
+    const QRect all(0, 0, 120, 60), above(0, 0, 120, 20), left(0, 0, 40, 60), there(40, 20, 9, 14);
+    const QImage blank = seen(all);
+    picture.SetCurrentX(40);
+    picture.SetCurrentY(20);
+    picture.Print("HH");
+    EXPECT_TRUE(seen(above) == blank.copy(above) && seen(left) == blank.copy(left));
+    EXPECT_FALSE(seen(there) == blank.copy(there));
+    EXPECT_TRUE(picture.CurrentX() == 0 && picture.CurrentY() > 30) << "the next line is below";
+    const QImage printed = seen(all);
+    for (const bool visible : {false, true}) picture.SetVisible(visible);
+    EXPECT_TRUE(seen(all) == printed);
+    picture.Cls();
+    EXPECT_TRUE(seen(all) == blank && picture.CurrentY() == 0);
 }
 
 }

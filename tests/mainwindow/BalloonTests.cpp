@@ -88,18 +88,5 @@ TEST_F(Balloons, AMarkStandsUntilThePointerCrossesTheWindowOrThePanel)
     EXPECT_EQ(Balloon(), "");
 }
 
-TEST_F(Balloons, OpensSoonAndTakesNoFocus)
-{
-    txtTime[0].SetFocus();
-    MoveTo(lblTotali[6]);
-    EXPECT_TRUE(WaitUntil([&] {
-        const auto balloons = form.findChildren<forms::Balloon*>();
-        return !balloons.isEmpty() && balloons[0]->isVisible();
-    }));
-    EXPECT_EQ(Focus(), "time 0");
-    Type(form, "12");
-    EXPECT_EQ(txtTime[0].Text(), "12");
-}
-
 }
 }

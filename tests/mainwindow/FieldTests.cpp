@@ -175,15 +175,5 @@ TEST_F(Fields, EveryChangeClearsTheResults)
     EXPECT_FALSE(ResultsEmpty());
 }
 
-TEST_F(Fields, TheCurrentTimeGoesIntoARow)
-{
-    SetNow(2026, 11, 22, 7, 5, 9);
-    Click(cmdNowTime[1]);
-    EXPECT_EQ(Focus(), "time 5");
-    Click(cmdNowTime[0]);
-    EXPECT_EQ(Focus(), "time 3");
-    EXPECT_EQ(Texts(txtTime), "07 05 09 07 05 09");
-}
-
 }
 }

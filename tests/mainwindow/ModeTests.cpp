@@ -125,21 +125,6 @@ TEST_F(Modes, TheOptionThatIsChosenAlreadyKeepsTheData)
     EXPECT_FALSE(lblTotali[5].Enabled());
 }
 
-TEST_F(Modes, WorkedByTheKeyboardAlone)
-{
-    optDataTime[0].SetFocus();
-    Press(form, Qt::Key_Right);
-    Press(form, Qt::Key_Right); // the first step moved the focus into the dates: no further
-    EXPECT_TRUE(optDataTime[1].Value());
-    EXPECT_EQ(Focus(), "data 0");
-    Type(form, "0101200531122005");
-    Press(form, Qt::Key_Tab);
-    Type(form, "080000093000");
-    Press(form, Qt::Key_Tab);
-    Press(form, Qt::Key_Space);
-    EXPECT_EQ(Captions(lblDati, 0, 5), "00 11 30 01 30 00");
-}
-
 TEST_F(Modes, AnotherModeChosenWhileTheSoundServesEventsWins)
 {
     for (const int first : {Times, Moments, Dates})

@@ -14,11 +14,6 @@ protected:
         return all;
     }
 
-    void WaitForTick(const std::string& Time)
-    {
-        ASSERT_TRUE(WaitUntil([&] { return picBarra[6].PrintedText() == Time; }));
-    }
-
     Array<forms::PictureBox> picBarra{form, "picBarra"};
     Array<forms::PictureBox> picToolBarra{form, "picToolBarra"};
 };
@@ -57,21 +52,13 @@ TEST_F(Strip, FiguresOfTheYear)
         SetNow(c.Year, c.Month, c.Day);
         ASSERT_TRUE(WaitUntil([&] { return Panels() == c.Panels; })) << Panels();
     }
+    SetNow(2005, 10, 31); // the same number again: the day goes on unnoticed
+    Wait(900);
+    EXPECT_EQ(picBarra[5].PrintedText(), " venerdì  31 dic 2004");
     EXPECT_EQ(picBarra[1].ToolTipText(), "Settimane trascorse da inizio anno");
     EXPECT_EQ(picBarra[4].AccessibleName(), "Giorni mancanti a fine anno: 0");
     EXPECT_EQ(picBarra[6].AccessibleName(), "Ora: 00.00.00");
     EXPECT_EQ(picBarra[5].AccessibleName(), "Data di oggi: venerdì  31 dic 2004");
-}
-
-TEST_F(Strip, ANewDayIsKnownByItsNumberAlone)
-{
-    WaitForTick("14.05.09");
-    SetNow(2027, 12, 22, 23, 59, 59);
-    WaitForTick("23.59.59");
-    EXPECT_EQ(picBarra[5].PrintedText(), " domenica  22 nov 2026");
-    SetNow(2027, 12, 23, 0, 0, 0);
-    WaitForTick("00.00.00");
-    EXPECT_EQ(picBarra[5].PrintedText(), " giovedì  23 dic 2027");
 }
 
 }

@@ -2,7 +2,6 @@
 
 #include "services/forms/Form.h"
 
-#include <string>
 #include <utility>
 
 namespace vellarno::test {
@@ -10,6 +9,8 @@ namespace vellarno::test {
 /// An empty form on which a test lays out the controls that it needs.
 class Workbench : public forms::Form
 {
+    std::string diary;
+
 public:
     Workbench() : Form(forms::FormBorder::FixedSingle) { setFixedSize(400, 300); }
 
@@ -20,6 +21,7 @@ public:
         auto* made = new ControlClass(Container ? &Container->Widget() : this);
         made->setObjectName(QString::fromUtf8(Name));
         made->Move(Left, Top, Width, Height);
+        made->SetVisible(true);
         return *made;
     }
 
@@ -31,20 +33,20 @@ public:
     /// What has been noted since the last look, in order.
     std::string Noted() { return std::exchange(diary, {}); }
 
-    /// Notes the mouse and the focus: "NAME move", "NAME down", "NAME up", "NAME click", …
-    void Follow(forms::Control& Control)
+    /// Notes the mouse and the focus of all controls, and the mouse over the form: "form move".
+    void Follow()
     {
-        const std::string name = Control.Widget().objectName().toStdString();
-        Control.MouseMove = Note(name + " move");
-        Control.MouseDown = Note(name + " down");
-        Control.MouseUp = Note(name + " up");
-        Control.Click = Note(name + " click");
-        Control.GotFocus = Note(name + " got");
-        Control.LostFocus = Note(name + " lost");
+        MouseMove = Note("form move");
+        for (forms::Control* control : Controls()) {
+            const std::string name = control->Widget().objectName().toStdString();
+            control->MouseMove = Note(name + " move");
+            control->MouseDown = Note(name + " down");
+            control->MouseUp = Note(name + " up");
+            control->Click = Note(name + " click");
+            control->GotFocus = Note(name + " got");
+            control->LostFocus = Note(name + " lost");
+        }
     }
-
-private:
-    std::string diary;
 };
 
 }

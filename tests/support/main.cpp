@@ -3,22 +3,14 @@
 #include <QString>
 #include <gtest/gtest.h>
 
-namespace {
-
-QtMessageHandler next = nullptr;
-
-/// What the offscreen platform can't do (raising, opacity) is no news.
-void DropPlatformsLimits(QtMsgType Type, const QMessageLogContext& Context, const QString& Text)
-{
-    if (!Text.startsWith(QLatin1String("This plugin does not support"))) next(Type, Context, Text);
-}
-
-}
-
 int main(int ArgumentCount, char** Arguments)
 {
     testing::InitGoogleTest(&ArgumentCount, Arguments);
-    next = qInstallMessageHandler(DropPlatformsLimits);
+    static QtMessageHandler next = qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext& from, const QString& text) {
+            // What the offscreen platform can't do (raising, opacity) is no news.
+            if (!text.startsWith(QLatin1String("This plugin does not"))) next(type, from, text);
+        });
     const vellarno::forms::Application application(ArgumentCount, Arguments);
     return RUN_ALL_TESTS();
 }
