@@ -58,10 +58,10 @@ TEST(Calculator, YearsMonthsAndDays)
         std::istringstream Text(Row);
         std::string From, To;
         Text >> From >> To;
-        const DateFigures Figures = DateDifference(*CDate(From) + 0.25, *CDate(To) + 0.75);
-        EXPECT_EQ(From + " " + To + " " + CStr(Figures.Years) + " " + CStr(Figures.Months) + " " +
-                      CStr(Figures.Days),
-                  Row);
+        for (const double EndTime : {0.0, 0.75}) {
+            const auto [Y, M, D, Days, Weeks] = DateDifference(*CDate(From), *CDate(To) + EndTime);
+            EXPECT_EQ(From + " " + To + " " + CStr(Y) + " " + CStr(M) + " " + CStr(D), Row);
+        }
     }
 }
 
@@ -84,6 +84,8 @@ TEST(Calculator, MomentsInEitherOrder)
         // Noon is neither morning nor afternoon, and rounds to the even day.
         {2, 0.25, 0.5, "00 00 02 02 00 03 01 00 00 pointer 06 00 00 54 3.240 194.400 "},
         {2, 0.5, 0.75, "00 00 02 02 00 02 01 00 00 pointer 06 00 00 54 3.240 194.400 "},
+        // Whole days; the week isn't complete before Monday.
+        {3, 0.25, 0.25, "00 00 03 03 00 03 01 00 00 pointer 00 00 00 72 4.320 259.200 "},
         // The counted end rounds to a day before the start: Friday counts all the same.
         {1, 0.75, 0.25, "00 00 00 00 00 01 00 00 00 pointer 12 00 00 12 720 43.200 "},
         {20000, 0, 0,
