@@ -4,7 +4,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPixmapCache>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <QSvgRenderer>
 #include <QToolTip>
 
@@ -53,6 +53,20 @@ void DrawShadow(QPainter& Painter, const QRect& Area)
     for (int i = 0; i < Sheets; ++i)
         Painter.drawRoundedRect(Area.adjusted(i, i, -i, -i), PanelRadius, PanelRadius);
 }
+
+/// The palette comes from the style, not from the application: colours set there are copied for
+/// each widget, and the toolkit would keep pictures of the buttons of every window ever opened.
+class ToolkitStyle : public QProxyStyle
+{
+public:
+    ToolkitStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    using QProxyStyle::polish;
+    void polish(QPalette& Colors) override
+    {
+        Colors = ToolkitPalette();
+        Colors.setResolveMask(0);
+    }
+};
 
 }
 
@@ -141,8 +155,8 @@ QColor ColorOf(unsigned int Value)
 
 void SetUpLook()
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(ToolkitPalette());
+    QApplication::setStyle(new ToolkitStyle);
+    QApplication::setPalette(QPalette());
     QFont font;
     font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial"),
                       QStringLiteral("Arimo"), QStringLiteral("Helvetica"),
