@@ -11,6 +11,7 @@
 #include "services/forms/TextBox.h"
 
 #include <QApplication>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace vellarno::test {
@@ -48,6 +49,23 @@ TEST_F(Forms, LoadOnceAndAreDestroyedOnceTheirEventsAreServed)
     EXPECT_TRUE(watch);
     Settle();
     EXPECT_FALSE(watch);
+}
+
+TEST_F(Forms, AnOwnedOneOutlivesItsHandlerAndLeavesNoPicturesOfItsButtons)
+{
+    auto* owned = new Workbench;
+    const QPointer<Form> watch = owned;
+    auto& serving = owned->Add<CommandButton>("serving");
+    serving.Click = [&] {
+        QTimer::singleShot(0, &form, [&] { watch->Close(); });
+        for (int turn = 0; turn < 5; ++turn) Wait(1);
+        EXPECT_TRUE(watch && !watch->Visible());
+    };
+    owned->Show(&form);
+    Open(*owned);
+    EXPECT_EQ(serving.palette().cacheKey(), button.palette().cacheKey()) << "they are kept by it";
+    Click(serving);
+    EXPECT_TRUE(WaitUntil([&] { return !watch; }));
 }
 
 TEST_F(Forms, ChangeComesInsideAWriteAndNests)

@@ -1,21 +1,16 @@
-#include "tests/monkey/Invariants.h"
-
 #include "engine/CalcDates.h"
 #include "engine/CalcTimes.h"
-#include "engine/Clock.h"
 #include "engine/CountPeriod.h"
 #include "engine/Holidays.h"
 #include "engine/Moments.h"
 #include "engine/Text.h"
 #include "minicalc/Accumulators.h"
-#include "tests/support/Driver.h"
+#include "tests/monkey/Monkey.h"
 
 #include <QApplication>
 
 #include <algorithm>
-#include <cctype>
 #include <memory>
-#include <sstream>
 
 namespace vellarno::test {
 
@@ -26,241 +21,40 @@ int Number(const forms::TextBox& Box)
     return CInt(Box.Text()).value_or(0);
 }
 
-double DateIn(const Array<forms::TextBox>& Boxes, int First)
-{
-    return DateSerial(Number(Boxes[First + 2]), Number(Boxes[First + 1]), Number(Boxes[First]));
-}
-
-double TimeIn(const Array<forms::TextBox>& Boxes, int First)
-{
-    return TimeSerial(Number(Boxes[First]), Number(Boxes[First + 1]), Number(Boxes[First + 2]));
-}
-
-template <class ControlClass>
-std::string Captions(const Array<ControlClass>& Labels)
+/// Figures as the labels print them, each with a blank behind it.
+std::string Print(std::initializer_list<std::int64_t> Figures)
 {
     std::string all;
-    for (const auto& label : Labels) all += label.Caption() + '|';
+    for (const auto figure : Figures) all += Format(figure, "0,0") + ' ';
     return all;
-}
-
-/// All result labels of the window, as one text.
-std::string Results(const MainWindow& Main)
-{
-    return Captions(Main.lblDati) + Captions(Main.lblTotali) + Captions(Main.lblWeekDay);
-}
-
-bool Complete(const MainWindow& Main)
-{
-    const auto filled = [](const forms::TextBox& box) { return !box.Text().empty(); };
-    const int mode = Main.Mode();
-    for (int i = 0; i < 6; ++i)
-        if ((mode != 0 && !filled(Main.txtData[i])) || (mode != 2 && !filled(Main.txtTime[i])))
-            return false;
-    for (const int first : {0, 3}) {
-        if (mode == 0) break;
-        const double date = DateIn(Main.txtData, first);
-        if (Number(Main.txtData[first + 2]) < 1000 || Day(date) != Number(Main.txtData[first]))
-            return false;
-    }
-    return true;
-}
-
-/// What a calculation with the fields as they stand has to show.
-std::string ExpectedResults(const MainWindow& Main)
-{
-    std::string dates = "|||", dateTotals = "||||||", times = "|||", timeTotals = "|||",
-                weekdays = "||";
-    const auto showTimes = [&](const TimeFigures& f) {
-        times = Format(f.Hours, "0,0") + '|' + Format(f.Minutes, "0,0") + '|' +
-                Format(f.Seconds, "0,0") + '|';
-        timeTotals = Format(f.TotalHours, "0,0") + '|' + Format(f.TotalMinutes, "0,0") + '|' +
-                     Format(f.TotalSeconds, "0,0") + '|';
-    };
-    const auto showDates = [&](double Start, double End) {
-        const DateFigures f = DateDifference(Start, End);
-        const PeriodFigures p = CountPeriod(CLng(Start), CLng(End), Main.chkWorkSat.Value() == 1);
-        dates = Format(f.Years, "0,0") + '|' + Format(f.Months, "00") + '|' + Format(f.Days, "00") +
-                '|';
-        dateTotals.clear();
-        for (const int figure :
-             {f.TotalDays, f.TotalWeeks, p.WorkingDays, p.Saturdays, p.Sundays, p.Holidays})
-            dateTotals += Format(figure, "0,0") + '|';
-        weekdays = WeekdayText(Weekday(DateIn(Main.txtData, 0), 1)) + '|' +
-                   WeekdayText(Weekday(DateIn(Main.txtData, 3), 1)) + '|';
-    };
-    const double startTime = TimeIn(Main.txtTime, 0);
-    const double endTime = TimeIn(Main.txtTime, 3);
-    const double startDate = DateIn(Main.txtData, 0);
-    const double endDate = DateIn(Main.txtData, 3);
-    switch (Main.Mode()) {
-    case 0:
-        showTimes(TimeDifference(startTime, endTime < startTime ? endTime + 1 : endTime));
-        break;
-    case 1: {
-        const auto period = OrderMoments({startDate, startTime}, {endDate, endTime});
-        showTimes(TimeDifference(period.StartDate, period.EndDate));
-        showDates(period.StartDate, period.CountedEnd);
-        break;
-    }
-    default:
-        showDates(std::min(startDate, endDate),
-                  std::max(startDate, endDate) + Main.chkDayInt.Value());
-    }
-    return dates + times + dateTotals + timeTotals + weekdays;
-}
-
-void CheckResults(const MainWindow& Main)
-{
-    const std::string shown = Results(Main);
-    if (shown.find_first_not_of('|') == std::string::npos) return;
-    Require(Complete(Main), "results stand on screen only where a calculation is possible");
-    Require(shown == ExpectedResults(Main), "the results on screen belong to the fields");
 }
 
 void CheckSegment(const forms::TextBox& Box, int Limit, bool RefusesZeros = false)
 {
     const std::string text = Box.Text();
-    if (text.empty()) return;
-    Require(IsNumeric(text) && CInt(text).value_or(Limit + 1) <= Limit,
-            "a segment holds a number up to its limit");
+    Require(text.empty() || CInt(text).value_or(32767) <= Limit, "numbers up to the limit");
     Require(!RefusesZeros || text != "00", "days and months hold no \"00\"");
     Require(static_cast<int>(text.size()) <= Box.MaxLength(), "a segment holds its length at most");
 }
 
 template <class ControlClass>
-bool AllEnabled(const Array<ControlClass>& Controls, int From, int To, bool Enabled)
+bool AllAre(bool Enabled, const forms::ControlArray<ControlClass>& Controls, int From, int To)
 {
     for (int i = From; i <= To; ++i)
         if (Controls.Has(i) && Controls[i].Enabled() != Enabled) return false;
     return true;
 }
 
-void CheckMode(const MainWindow& Main)
-{
-    const int mode = Main.Mode();
-    const bool dates = mode != 0;
-    const bool times = mode != 2;
-    for (int i = 0; i < 3; ++i) {
-        Require(Main.optDataTime[i].Value() == (i == mode), "one mode is chosen");
-        Require(Main.imgTipoCalcolo[i].Visible() == (i == mode), "the picture is the mode's");
-    }
-    Require(AllEnabled(Main.txtData, 0, 5, dates) && AllEnabled(Main.cmdNowData, 0, 1, dates) &&
-                AllEnabled(Main.lblTotali, 0, 4, dates) &&
-                AllEnabled(Main.lblLabel, 10, 20, dates) && Main.chkWorkSat.Enabled() == dates &&
-                AllEnabled(Main.lblChekBox, 1, 1, dates),
-            "what belongs to dates is enabled in the modes with dates");
-    Require(AllEnabled(Main.txtTime, 0, 5, times) && AllEnabled(Main.cmdNowTime, 0, 1, times) &&
-                AllEnabled(Main.lblTotali, 6, 8, times) && AllEnabled(Main.lblLabel, 0, 7, times) &&
-                AllEnabled(Main.lblSeparatore, 4, 7, times),
-            "what belongs to times is enabled in the modes with times");
-    Require(AllEnabled(Main.lblSeparatore, 0, 3, mode == 1), "slashes are enabled in mode 1");
-    Require(Main.chkDayInt.Enabled() == !times && AllEnabled(Main.lblChekBox, 0, 0, !times),
-            "whole days are a choice of the mode of dates");
-    for (int i = 0; i < 6; ++i) {
-        if (!dates) Require(Main.txtData[i].Text().empty(), "unused dates are empty");
-        const bool wholeDay = i == 3 && Main.chkDayInt.Value() == 1;
-        if (!times)
-            Require(Main.txtTime[i].Text() == (wholeDay ? "24" : "00"), "unused times are filled");
-    }
-    const unsigned int color = Main.chkWorkSat.Value() == 1 ? forms::PureRed : forms::Black;
-    Require(Main.lblTotali[3].ForeColor() == color && Main.lblLabel[18].ForeColor() == color,
-            "Saturdays are red while they are holidays");
 }
 
-/// The month and year that a text like " GEN 2005" or "03 gen 2005" ends in, as its first day.
-double MonthIn(std::string Text)
+void Monkey::Check()
 {
-    std::ranges::transform(Text, Text.begin(), [](unsigned char c) { return std::tolower(c); });
-    std::istringstream words(Text.substr(Text.size() < 8 ? 0 : Text.size() - 8));
-    std::string name;
-    int year = 0;
-    words >> name >> year;
-    for (int month = 1; month <= 12; ++month) {
-        const double first = DateSerial(year, month, 1);
-        if (Format(first, "mmm yyyy") == name + ' ' + Format(year, "0000")) return first;
-    }
-    throw Fault("a month and year are on show");
-}
-
-void CheckCalendar(const MainWindow& Main)
-{
-    Require(Main.shpShadow.Visible() == Main.picCalendario.Visible(),
-            "panel and shadow go together");
-    if (!Main.picCalendario.Visible()) return;
-    Require(Main.Mode() != 0, "the calendar is open only in the modes with dates");
-    const double first = MonthIn(Main.txtCalMeseAnno.Text());
-    Require(Month(first) == Main.hscDataScroll.Value(), "the month on show is the scroll bar's");
-    int serial = static_cast<int>(first) - Weekday(first, 2) + 1;
-    for (const auto& cell : Main.GIORNO) {
-        const bool inMonth = Month(serial) == Month(first);
-        Require(cell.Enabled() == inMonth && cell.Caption() == CStr(Day(serial)),
-                "each cell shows its day");
-        const bool holiday = IsHoliday(serial, EasterDate(Year(first)) + 1);
-        if (inMonth)
-            Require(cell.FontBold() == holiday &&
-                        cell.ForeColor() == (holiday ? forms::PureRed : forms::ButtonText),
-                    "holidays are red and bold");
-        ++serial;
-    }
-}
-
-}
-
-void CheckMainWindow(const MainWindow& Main)
-{
-    CheckMode(Main);
-    CheckResults(Main);
-    CheckCalendar(Main);
-    for (int i = 0; i < 6; ++i) {
-        const int part = i % 3;
-        CheckSegment(Main.txtData[i], part == 0 ? 31 : part == 1 ? 12 : 2100, part != 2);
-        if (Main.txtTime[i].Enabled()) CheckSegment(Main.txtTime[i], part == 0 ? 23 : 59);
-    }
-}
-
-void CheckSums(const SumsWindow& Sums)
-{
-    const bool date = Sums.optBase[1].Value();
-    Require(Sums.picBase[0].Visible() == !date && Sums.picBase[1].Visible() == date,
-            "the panel on show is the chosen side's");
-    Require((Sums.lblTitoloHelp.Caption().find("DATA") != std::string::npos) == date,
-            "the help's heading is the chosen side's");
-
-    const bool longFormat = Sums.optFormat[1].Value();
-    const std::string help = Sums.lblHelpTxt.Caption();
-    Require(Sums.lblTime[1].Caption() == (longFormat ? " hh : mmm : sss" : "hh  :  mm  :  ss"),
-            "the legend is the format's");
-    if (!date)
-        Require((help.find("superiore") != std::string::npos) == longFormat,
-                "the help is the format's");
-    for (int i = 0; i < 6; ++i) {
-        const bool unlimited = i > 3;
-        CheckSegment(Sums.txtCalc[i], unlimited ? 999 : i % 3 == 0 ? 23 : 59);
-        Require(Sums.txtCalc[i].MaxLength() == (unlimited && longFormat ? 3 : 2),
-                "the format gives the digits");
-    }
-
-    int unit = 0;
-    while (!Sums.optTipoDati[unit].Value()) ++unit;
-    const std::string name(DateUnits[unit].Name);
-    Require(Sums.lblTime[5].Caption() == name, "the legend is the unit's");
-    if (date) Require(help.find(name) != std::string::npos, "the help is the unit's");
-    if (date)
-        Require(Sums.txtSommaDati.MaxLength() == static_cast<int>(DateUnits[unit].Zero.size()),
-                "the unit gives the digits");
-    CheckSegment(Sums.txtData[0], 31);
-    CheckSegment(Sums.txtData[1], 12);
-    CheckSegment(Sums.txtData[2], 2300);
-
-    const auto operation = [](bool subtracts) { return subtracts ? "Sottrai" : "Somma"; };
-    Require(Sums.lblTime[3].Caption() == operation(Sums.optSomma[1].Value()) &&
-                Sums.lblTime[7].Caption() == operation(Sums.optSommaData[1].Value()),
-            "the operation's name is the chosen one's");
-}
-
-void CheckDesktop()
-{
+    CheckMode();
+    CheckFields();
+    CheckResults();
+    CheckCalendar();
+    CheckStrip();
+    if (const frmMiniCalc* sums = Sums()) test::CheckSums(*sums);
     const QWidget* focus = QApplication::focusWidget();
     Require(!focus || focus->isVisible(), "the focus is on a control that can be seen");
     for (const QWidget* window : QApplication::topLevelWidgets())
@@ -271,114 +65,261 @@ void CheckDesktop()
     Require(!QApplication::activeModalWidget(), "no box is left behind");
 }
 
-void StripWatch::Check(const MainWindow& Main, const std::set<int>& Days)
+void Monkey::CheckMode() const
 {
-    const std::string date = Main.Panel(5);
-    if (date != shown) {
-        const auto since = std::ranges::find_if(
-            Days, [&](int Each) { return Format(Each, " dddd  dd mmm yyyy") == date; });
-        Require(since != Days.end(), "the strip shows a day that the clock has shown");
-        day = *since;
-        shown = date;
-    }
-    if (shown.empty()) return;
-
-    int tuesdays = 0, sundays = 0;
-    const auto first = static_cast<int>(DateSerial(Year(day), 1, 1));
-    const auto last = static_cast<int>(DateSerial(Year(day), 12, 31));
-    for (int each = first + 1; each <= day; ++each) tuesdays += Weekday(each, 1) == 3;
-    for (int each = day + 1; each <= last; ++each) sundays += Weekday(each, 1) == 1;
-    Require(Main.Panel(0) == CStr((Month(day) - 1) / 3 + 1) + "°" &&
-                Main.Panel(1) == CStr(tuesdays) && Main.Panel(2) == CStr(sundays) &&
-                Main.Panel(3) == CStr(day - first + 1) && Main.Panel(4) == CStr(last - day),
-            "the strip's figures belong to its date");
+    const bool dates = !optDataTime[Times].Value();
+    const bool times = !optDataTime[Dates].Value();
+    Require(AllAre(dates, txtData, 0, 5) && AllAre(dates, cmdNowData, 0, 1) &&
+                AllAre(dates, lblTotali, 0, 4) && AllAre(dates, lblLabel, 10, 20) &&
+                AllAre(dates, lblChekBox, 1, 1) && chkWorkSat.Enabled() == dates,
+            "what belongs to dates is enabled in the modes with dates");
+    Require(AllAre(times, txtTime, 0, 5) && AllAre(times, cmdNowTime, 0, 1) &&
+                AllAre(times, lblTotali, 6, 8) && AllAre(times, lblLabel, 0, 7) &&
+                AllAre(times, lblSeparatore, 4, 7),
+            "what belongs to times is enabled in the modes with times");
+    Require(AllAre(dates && times, lblSeparatore, 0, 3), "slashes are enabled between both");
+    Require(chkDayInt.Enabled() == !times && AllAre(!times, lblChekBox, 0, 0),
+            "whole days are a choice of the mode of dates");
+    const unsigned int color = chkWorkSat.Value() == 1 ? forms::PureRed : forms::Black;
+    Require(lblTotali[3].ForeColor() == color && lblLabel[18].ForeColor() == color,
+            "Saturdays are red while they are holidays");
 }
 
-void StripWatch::CheckTick(const MainWindow& Main) const
+void Monkey::CheckFields() const
 {
-    Require(Main.Panel(6) == Format(Now(), "hh.mm.ss"), "a tick shows the time");
-    Require(Main.Panel(5).find(' ' + Format(Date(), "dd") + ' ') != std::string::npos,
-            "a tick on a new day of the month updates the strip");
+    for (int i = 0; i < 6; ++i) {
+        const int part = i % 3;
+        CheckSegment(txtData[i], part == 0 ? 31 : part == 1 ? 12 : 2100, part != 2);
+        if (txtTime[i].Enabled()) CheckSegment(txtTime[i], part == 0 ? 23 : 59);
+    }
+    if (!txtData[0].Enabled()) Require(Texts(txtData) == "     ", "unused dates are empty");
+    if (!txtTime[0].Enabled())
+        Require(Texts(txtTime) ==
+                    (chkDayInt.Value() == 1 ? "00 00 00 24 00 00" : "00 00 00 00 00 00"),
+                "unused times are filled");
+}
+
+double Monkey::DateIn(int First) const
+{
+    return DateSerial(Number(txtData[First + 2]), Number(txtData[First + 1]),
+                      Number(txtData[First]));
+}
+
+double Monkey::TimeIn(int First) const
+{
+    return TimeSerial(Number(txtTime[First]), Number(txtTime[First + 1]),
+                      Number(txtTime[First + 2]));
+}
+
+void Monkey::CheckResults() const
+{
+    if (ResultsEmpty()) return;
+    for (int i = 0; i < 6; ++i)
+        Require(!(txtData[i].Enabled() && txtData[i].Text().empty()) && !txtTime[i].Text().empty(),
+                "results stand on screen only where all fields are filled");
+    for (const int first : {0, 3})
+        Require(!txtData[0].Enabled() || (Number(txtData[first + 2]) >= 1000 &&
+                                          Day(DateIn(first)) == Number(txtData[first])),
+                "results are of days that the calendar has");
+    const std::string shown = Captions(lblDati, 0, 5) + " / " + Captions(lblTotali, 0, 8) + " / " +
+                              Captions(lblWeekDay, 0, 1);
+    Require(shown == ExpectedResults(), "the results on screen belong to the fields");
+}
+
+/// What a calculation with the fields as they stand has to show.
+std::string Monkey::ExpectedResults() const
+{
+    const auto clock = [](const TimeFigures& f) { return Print({f.Hours, f.Minutes, f.Seconds}); };
+    const auto clockTotals = [](const TimeFigures& f) {
+        return Print({f.TotalHours, f.TotalMinutes, f.TotalSeconds});
+    };
+    if (optDataTime[Times].Value()) {
+        const double end = TimeIn(3) < TimeIn(0) ? TimeIn(3) + 1 : TimeIn(3);
+        const TimeFigures f = TimeDifference(TimeIn(0), end);
+        return "   " + clock(f) + "/       " + clockTotals(f) + "/  ";
+    }
+    const bool moments = optDataTime[Moments].Value();
+    double start = std::min(DateIn(0), DateIn(3));
+    double end = std::max(DateIn(0), DateIn(3)) + chkDayInt.Value();
+    TimeFigures t{};
+    if (moments) {
+        const auto period = OrderMoments({DateIn(0), TimeIn(0)}, {DateIn(3), TimeIn(3)});
+        start = period.StartDate;
+        end = period.CountedEnd;
+        t = TimeDifference(period.StartDate, period.EndDate);
+    }
+    const DateFigures f = DateDifference(start, end);
+    const PeriodFigures p = CountPeriod(CLng(start), CLng(end), chkWorkSat.Value() == 1);
+    return Print({f.Years, f.Months, f.Days}) + (moments ? clock(t) : "   ") + "/ " +
+           Print({f.TotalDays, f.TotalWeeks, p.WorkingDays, p.Saturdays, p.Sundays, p.Holidays}) +
+           (moments ? clockTotals(t) : "   ") + "/ " + WeekdayText(Weekday(DateIn(0), 1)) + ' ' +
+           WeekdayText(Weekday(DateIn(3), 1));
+}
+
+void Monkey::CheckCalendar() const
+{
+    Require(shpShadow.Visible() == picCalendario.Visible(), "panel and shadow go together");
+    if (!picCalendario.Visible()) return;
+    Require(!optDataTime[Times].Value(), "the calendar is open only in the modes with dates");
+    const std::string title = txtCalMeseAnno.Text(); // " GEN 2005"
+    const double first = DateSerial(CInt(title.substr(5)).value_or(0), hscDataScroll.Value(), 1);
+    std::string name = Format(first, " mmm yyyy");
+    std::ranges::transform(name, name.begin(), [](unsigned char c) { return std::toupper(c); });
+    Require(title == name, "the month on show is the scroll bar's");
+    int serial = static_cast<int>(first) - Weekday(first, 2) + 1;
+    for (const auto& cell : GIORNO) {
+        const bool shown = Month(serial) == Month(first);
+        const bool holiday = IsHoliday(serial, EasterDate(Year(first)) + 1);
+        Require(cell.Enabled() == shown && cell.Caption() == CStr(Day(serial++)),
+                "each cell shows its day");
+        Require(!shown || (cell.FontBold() == holiday &&
+                           cell.ForeColor() == (holiday ? forms::PureRed : forms::ButtonText)),
+                "holidays are red and bold");
+    }
+}
+
+/// The strip only has its panels once the window has loaded.
+std::string Monkey::Panel(int Index) const
+{
+    return form.Get<forms::PictureBox>(("picBarra_" + CStr(Index)).c_str()).PrintedText();
+}
+
+/// The figures stay for the day of the last full update.
+void Monkey::CheckStrip()
+{
+    if (const std::string date = Panel(5); date != stripDate) {
+        const auto since = std::ranges::find_if(
+            days, [&](int Each) { return Format(Each, " dddd  dd mmm yyyy") == date; });
+        Require(since != days.end(), "the strip shows a day that the clock has shown");
+        stripDay = *since;
+        stripDate = date;
+    }
+    days = {static_cast<int>(now)};
+    if (stripDate.empty()) return;
+
+    const auto first = static_cast<int>(DateSerial(Year(stripDay), 1, 1));
+    const auto last = static_cast<int>(DateSerial(Year(stripDay), 12, 31));
+    int tuesdays = 0;
+    int sundays = 0;
+    for (int each = first + 1; each <= stripDay; ++each) tuesdays += Weekday(each, 1) == 3;
+    for (int each = stripDay + 1; each <= last; ++each) sundays += Weekday(each, 1) == 1;
+    Require(Panel(0) == CStr((Month(stripDay) - 1) / 3 + 1) + "°" && Panel(1) == CStr(tuesdays) &&
+                Panel(2) == CStr(sundays) && Panel(3) == CStr(stripDay - first + 1) &&
+                Panel(4) == CStr(last - stripDay),
+            "the strip's figures belong to its date");
 }
 
 namespace {
 
-std::string Texts(const SumsWindow& Sums)
+/// The sequential calculator's controls by their names.
+struct SumsView
 {
-    std::string all;
-    for (const auto& box : Sums.txtCalc) all += box.Text() + ' ';
-    for (const auto& box : Sums.txtData) all += box.Text() + ' ';
-    return all + Sums.txtSommaDati.Text();
+    const frmMiniCalc& Form;
+
+    forms::TextBox& Box(const std::string& Name) const
+    {
+        return Form.Get<forms::TextBox>(Name.c_str());
+    }
+    int Figure(const char* Name, int Index) const { return Number(Box(Name + CStr(Index))); }
+    std::string Caption(const char* Name) const { return Form.Get<forms::Label>(Name).Caption(); }
+    bool Chosen(const std::string& Name) const
+    {
+        return Form.Get<forms::OptionButton>(Name.c_str()).Value();
+    }
+    int Seconds(int First) const
+    {
+        return Figure("txtCalc_", First) * 3600 + Figure("txtCalc_", First + 1) * 60 +
+               Figure("txtCalc_", First + 2);
+    }
+    const DateUnit& Unit() const
+    {
+        int unit = 0;
+        while (!Chosen("optTipoDati_" + CStr(unit))) ++unit;
+        return DateUnits[unit];
+    }
+    std::string Date() const
+    {
+        return Box("txtData_0").Text() + '/' + Box("txtData_1").Text() + '/' +
+               Box("txtData_2").Text();
+    }
+};
+
 }
 
-std::string DateText(double Date)
+void CheckSums(const frmMiniCalc& Form)
 {
-    return Format(Date, "dd") + ' ' + CStr(Month(Date)) + ' ' + CStr(Year(Date));
-}
-
-std::string DateText(const SumsWindow& Sums)
-{
-    return Sums.txtData[0].Text() + ' ' + CStr(Number(Sums.txtData[1])) + ' ' +
-           CStr(Number(Sums.txtData[2]));
-}
-
-void WatchTimeSum(const SumsWindow& Sums, const std::function<void()>& Add)
-{
-    constexpr int day = 86400;
-    const auto seconds = [&](int First) {
-        return Number(Sums.txtCalc[First]) * 3600 + Number(Sums.txtCalc[First + 1]) * 60 +
-               Number(Sums.txtCalc[First + 2]);
+    const SumsView sums{Form};
+    const bool date = sums.Chosen("optBase_1");
+    const bool longFormat = sums.Chosen("optFormat_1");
+    const std::string unit(sums.Unit().Name);
+    const std::string help = sums.Caption("lblHelpTxt");
+    const auto helps = [&](const std::string& Word) {
+        return help.find(Word) != std::string::npos;
     };
-    const int step = Sums.optSomma[1].Value() ? -seconds(3) : seconds(3);
-    const int total = ((seconds(0) + step) % day + day) % day;
-    Add();
-    Require(seconds(0) == total && seconds(3) == 0, "the running time is the sum");
-}
-
-void WatchDateSum(const SumsWindow& Sums, const std::function<void()>& Add)
-{
-    int unit = 0;
-    while (!Sums.optTipoDati[unit].Value()) ++unit;
-    const std::string typed =
-        Sums.txtData[0].Text() + '/' + Sums.txtData[1].Text() + '/' + Sums.txtData[2].Text();
-    const auto result =
-        StepDate(typed, DateUnits[unit], Sums.txtSommaDati.Text(), Sums.optSommaData[1].Value());
-    const std::string before = Texts(Sums);
-    Add();
-    if (!result)
-        Require(Texts(Sums) == before, "a refused sum leaves the fields");
-    else
-        Require(DateText(Sums) == DateText(Year(*result) > 2300 ? Date() : *result),
-                "the running date is the sum, or today beyond the last year");
-}
-
+    Require(Form.Get<forms::PictureBox>("picBase_0").Visible() == !date &&
+                Form.Get<forms::PictureBox>("picBase_1").Visible() == date,
+            "the panel on show is the chosen side's");
+    Require((sums.Caption("lblTitoloHelp").find("DATA") != std::string::npos) == date &&
+                (date ? helps(unit) : helps("superiore") == longFormat),
+            "the help is the choice's");
+    Require((sums.Caption("lblTime_1") == " hh : mmm : sss") == longFormat &&
+                sums.Caption("lblTime_5") == unit,
+            "the legends are the choices'");
+    Require((sums.Caption("lblTime_3") == "Sottrai") == sums.Chosen("optSomma_1") &&
+                (sums.Caption("lblTime_7") == "Sottrai") == sums.Chosen("optSommaData_1"),
+            "the operation's name is the chosen one's");
+    for (int i = 0; i < 6; ++i) {
+        const auto& box = sums.Box("txtCalc_" + CStr(i));
+        CheckSegment(box, i > 3 ? 999 : i % 3 == 0 ? 23 : 59);
+        Require(box.MaxLength() == (i > 3 && longFormat ? 3 : 2), "the format gives the digits");
+    }
+    Require(!date ||
+                sums.Box("txtSommaDati").MaxLength() == static_cast<int>(sums.Unit().Zero.size()),
+            "the unit gives the digits");
+    CheckSegment(sums.Box("txtData_0"), 31);
+    CheckSegment(sums.Box("txtData_1"), 12);
+    CheckSegment(sums.Box("txtData_2"), 2300);
 }
 
 void WatchSums(frmMiniCalc& Form)
 {
-    const auto sums = std::make_shared<SumsWindow>(Form);
-    // The window may be closed, but is not yet destroyed, while a sum shows its message.
-    sums->cmdSommaOre.Click = [sums, add = sums->cmdSommaOre.Click] { WatchTimeSum(*sums, add); };
-    sums->cmdSommaData.Click = [sums, add = sums->cmdSommaData.Click] { WatchDateSum(*sums, add); };
+    const SumsView sums{Form};
+    auto& addTime = Form.Get<forms::CommandButton>("cmdSommaOre");
+    addTime.Click = [sums, add = addTime.Click] {
+        constexpr int day = 86400;
+        const int step = sums.Chosen("optSomma_1") ? -sums.Seconds(3) : sums.Seconds(3);
+        const int total = ((sums.Seconds(0) + step) % day + day) % day;
+        add();
+        Require(sums.Seconds(0) == total && sums.Seconds(3) == 0, "the running time is the sum");
+    };
+    auto& addDate = Form.Get<forms::CommandButton>("cmdSommaData");
+    addDate.Click = [sums, add = addDate.Click] {
+        const std::string before = sums.Date();
+        const auto result = StepDate(before, sums.Unit(), sums.Box("txtSommaDati").Text(),
+                                     sums.Chosen("optSommaData_1"));
+        add();
+        if (!result)
+            Require(sums.Date() == before, "a refused sum leaves the fields");
+        else
+            Require(CDate(sums.Date()) == (Year(*result) > 2300 ? Date() : *result),
+                    "the running date is the sum, or today beyond the last year");
+    };
 }
 
-std::string Describe(const forms::Form& Form)
+std::string Monkey::Windows() const
 {
     std::string all;
-    for (forms::Control* control : Form.Controls()) {
-        std::string text = control->Enabled() ? "" : " (disabled)";
-        if (const auto* box = dynamic_cast<forms::TextBox*>(control)) text += ' ' + box->Text();
-        if (const auto* label = dynamic_cast<forms::Label*>(control))
-            text += ' ' + label->Caption();
-        if (const auto* box = dynamic_cast<forms::CheckBox*>(control))
-            text += ' ' + CStr(box->Value());
-        if (const auto* option = dynamic_cast<forms::OptionButton*>(control))
-            text += option->Value() ? " (chosen)" : "";
-        if (const auto* panel = dynamic_cast<forms::PictureBox*>(control))
-            text += ' ' + panel->PrintedText();
-        const std::string name = control->Widget().objectName().toStdString();
-        if (name.find("GIORNO") == std::string::npos && text.find_first_not_of(' ') < text.size())
-            all += "  " + name + text + (control->Visible() ? "\n" : " (hidden)\n");
+    std::vector<forms::Control*> controls = form.Controls();
+    if (const frmMiniCalc* sums = Sums())
+        std::ranges::copy(sums->Controls(), back_inserter(controls));
+    for (const forms::Control* control : controls) {
+        std::string text;
+        if (const auto* box = dynamic_cast<const forms::TextBox*>(control)) text = box->Text();
+        if (const auto* label = dynamic_cast<const forms::Label*>(control)) text = label->Caption();
+        if (const auto* button = dynamic_cast<const QAbstractButton*>(control))
+            text = button->isChecked() ? "chosen" : "";
+        if (!text.empty())
+            all += "  " + control->Widget().objectName().toStdString() + ' ' + text + '\n';
     }
     return all;
 }

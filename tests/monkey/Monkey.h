@@ -1,105 +1,104 @@
 #pragma once
 
-#include "tests/monkey/Invariants.h"
+#include "tests/mainwindow/MainWindow.h"
 #include "tests/support/Folder.h"
-#include "tests/support/Recorder.h"
 
 #include <QTimer>
 
 #include <deque>
-#include <memory>
 #include <random>
 #include <set>
-#include <string>
+#include <stdexcept>
 
 namespace vellarno::test {
 
-/// Someone who presses, clicks and drags whatever comes under the hand, in all windows of the
-/// program, while the clock jumps. What it does follows from its seed alone.
-class Monkey
+/// Something that must always hold doesn't.
+struct Fault : std::logic_error
+{
+    using std::logic_error::logic_error;
+};
+
+inline void Require(bool Holds, const char* Rule)
+{
+    if (!Holds) throw Fault(Rule);
+}
+
+/// One life of the program under the hands of someone who presses, clicks and drags whatever comes
+/// along, in all windows, while the clock jumps. What it does follows from its dice alone.
+class Monkey : private MainWindow
 {
 public:
-    explicit Monkey(unsigned Seed);
-    ~Monkey();
-    Monkey(const Monkey&) = delete;
-    Monkey& operator=(const Monkey&) = delete;
+    explicit Monkey(std::mt19937& Dice);
+    ~Monkey() override;
 
-    /// One event more, and then a look at everything that must hold.
+    /// One event, and then a look at everything that must hold.
+    /// @return false once the program has ended.
     /// @throws Fault
-    void Act();
-    int Events() const { return events; }
-    /// The last events, for the report of a fault.
+    bool Act();
+    /// The last events, each by its letter in Step.
     std::string Notes() const;
-    /// What stands in the windows now.
+    /// What stands in the windows.
     std::string Windows() const;
 
-    void SetNow(double Moment);
+    void ClockShows(double Moment);
     void Tick();
 
 private:
-    /// Message boxes are mostly taken note of; now and then a real one stands and is answered.
-    class Desk : public Recorder
-    {
-    public:
-        std::function<bool()> ShowsBox;
-        void MsgBox(const std::string& Prompt, forms::MessageStyle Style,
-                    const std::string& Title) override;
-        void Forget();
-    };
+    void TestBody() override {}
 
-    int Below(int Count);
+    int Below(int Count) { return std::uniform_int_distribution(0, Count - 1)(dice); }
     bool OneIn(int Chances) { return Below(Chances) == 0; }
     template <class Range>
-    const auto& Any(const Range& Of)
+    auto Any(const Range& Of)
     {
         return Of[static_cast<std::size_t>(Below(static_cast<int>(std::size(Of))))];
     }
+    template <class... Kinds>
+    forms::Control& AnyOf(const forms::Form& Form);
+    std::string Digits(int Most);
 
-    void OpenMainWindow();
-    frmMiniCalc* Sums() const;
-    forms::Form* Window();
-    static forms::Form& Front(forms::Form& Form);
+    static frmMiniCalc* Sums();
+    static void Front(forms::Form& Form);
     static void TypeInto(forms::Form& Form, const std::string& Text);
-    forms::Control* AnyControl(forms::Form& Form);
-    forms::TextBox* AnyBox(forms::Form& Form);
-    void Note(const std::string& What);
-    void Check();
-    void AnswerBox();
 
     void Step();
-    void TypeDigits();
-    void PressKey();
-    void ClickControl();
-    void ClickAnywhere();
-    void DoubleOrRightClick();
-    void Drag();
-    void MovePointer();
-    void TurnWheel();
-    void PutText();
+    void Drag(forms::Form& Form, forms::Control& Control);
     void FillIn();
-    void FillSums();
+    void FillSums(frmMiniCalc& Form);
     void UseCalendar();
-    void Choose();
-    void ClickCaption();
     void PressIcon();
-    void Pin();
-    void SwitchWindow();
-    void CloseWindow();
     void JumpClock();
-    void Rest();
-    void Hurry();
+    void AnswerBox();
 
-    std::mt19937 dice;
-    int events = 0;
+    // What must hold between any two events, whatever came before
+    void Check();
+    void CheckMode() const;
+    void CheckFields() const;
+    void CheckResults() const;
+    void CheckCalendar() const;
+    void CheckStrip();
+    std::string ExpectedResults() const;
+    std::string Panel(int Index) const;
+    double DateIn(int First) const;
+    double TimeIn(int First) const;
+
+    std::mt19937& dice;
     std::deque<std::string> notes;
-    std::set<int> days; ///< that the clock has shown since the last look at the strip
     double now = 0;
-    Folder folder;
-    Desk desk;
-    std::unique_ptr<frmMain> form;
-    std::unique_ptr<MainWindow> main;
-    StripWatch strip;
+    std::set<int> days; ///< that the clock has shown since the last look at the strip
+    int stripDay = 0;
+    std::string stripDate;
+    const Folder folder;
     QTimer boxWatch;
+    Array<forms::Label> GIORNO{form, "GIORNO"};
+    Array<forms::PictureBox> picToolBarra{form, "picToolBarra"};
+    forms::ScrollBar& hscDataScroll = form.Get<forms::ScrollBar>("hscDataScroll");
+    forms::TextBox& txtCalMeseAnno = form.Get<forms::TextBox>("txtCalMeseAnno");
 };
+
+/// Fields and captions of the sequential calculator.
+void CheckSums(const frmMiniCalc& Form);
+/// Puts a witness before both "=": it compares each sum with one worked out apart from the window.
+void WatchSums(frmMiniCalc& Form);
 
 }
