@@ -1,11 +1,24 @@
 #include "services/forms/TextBox.h"
 
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyleHints>
+#include <QTimerEvent>
 
 namespace vellarno::forms {
+
+namespace {
+
+// A caret that nobody moves stays lit: each blink would wake the processor twice a second for
+// as long as the window stands open. Other toolkits wait as long.
+constexpr int BlinkingMilliseconds = 10'000;
+constexpr int DesktopFlashTime = -1;
+constexpr int SteadyFlashTime = 0;
+
+}
 
 TextBox::TextBox(QWidget* Parent) : ControlOf<QLineEdit>(Parent)
 {
@@ -20,6 +33,7 @@ TextBox::TextBox(QWidget* Parent) : ControlOf<QLineEdit>(Parent)
 /// Alt or the system key with a character is no typing, though the widget would take it for that.
 void TextBox::keyPressEvent(QKeyEvent* Event)
 {
+    BlinkForAWhile();
     const auto modifiers = Event->modifiers();
     const bool command = modifiers.testAnyFlags(Qt::AltModifier | Qt::MetaModifier) &&
                          !modifiers.testFlag(Qt::ControlModifier);
@@ -46,8 +60,28 @@ void TextBox::inputMethodEvent(QInputMethodEvent* Event)
 // The click that brings the focus leaves the selection which GotFocus made: it sets no caret.
 void TextBox::focusInEvent(QFocusEvent* Event)
 {
+    BlinkForAWhile();
     QLineEdit::focusInEvent(Event);
     arriving = Event->reason() == Qt::MouseFocusReason;
+}
+
+void TextBox::focusOutEvent(QFocusEvent* Event)
+{
+    caretRest.stop();
+    QLineEdit::focusOutEvent(Event);
+}
+
+void TextBox::timerEvent(QTimerEvent* Event)
+{
+    if (Event->timerId() != caretRest.timerId()) return QLineEdit::timerEvent(Event);
+    caretRest.stop();
+    QGuiApplication::styleHints()->setCursorFlashTime(SteadyFlashTime);
+}
+
+void TextBox::BlinkForAWhile()
+{
+    QGuiApplication::styleHints()->setCursorFlashTime(DesktopFlashTime);
+    caretRest.start(BlinkingMilliseconds, this);
 }
 
 void TextBox::mousePressEvent(QMouseEvent* Event)

@@ -2,6 +2,7 @@
 
 #include "services/forms/Control.h"
 
+#include <QBasicTimer>
 #include <QLineEdit>
 #include <QWheelEvent>
 
@@ -31,6 +32,8 @@ protected:
     void keyPressEvent(QKeyEvent* Event) override;
     void inputMethodEvent(QInputMethodEvent* Event) override;
     void focusInEvent(QFocusEvent* Event) override;
+    void focusOutEvent(QFocusEvent* Event) override;
+    void timerEvent(QTimerEvent* Event) override;
     void mousePressEvent(QMouseEvent* Event) override;
     void mouseMoveEvent(QMouseEvent* Event) override;
     void mouseDoubleClickEvent(QMouseEvent* Event) override;
@@ -38,6 +41,9 @@ protected:
     void wheelEvent(QWheelEvent* Event) override { Event->ignore(); }
 
 private:
+    void BlinkForAWhile();
+
+    QBasicTimer caretRest;
     bool arriving = false; ///< the button that brought the focus is still down
 };
 
