@@ -11,8 +11,8 @@ inline constexpr int HandCursor = 101;
 inline std::string Icon(int Id)
 {
     switch (Id) {
-    case 201: return ":/pictures/pin-off.svg";
-    case 202: return ":/pictures/pin-on.svg";
+    case 201: return ":/pictures/pin-off.png";
+    case 202: return ":/pictures/pin-on.png";
     default: return {};
     }
 }

@@ -20,27 +20,71 @@ constexpr std::uint32_t SoundId = 1;
 /// How long the end of the program waits for a service that is at work.
 constexpr std::chrono::milliseconds Patience{100};
 
+/// The last resort of the service, the bare sound card, reports a missing one on the terminal.
 void IgnoreReport(const char*, int, const char*, int, const char*, ...) {}
 
-/// The last resort of the service, the bare sound card, reports a missing one on the terminal.
-void QuietenSoundCard()
+/// A library that waits on the disk until it is wanted, and then stays. Its functions are null
+/// where it is missing.
+class Library
 {
-    using SetHandler = int (*)(decltype(&IgnoreReport));
-    void* library = dlopen("libasound.so.2", RTLD_LAZY); // stays loaded for the service
-    void* setHandler = library ? dlsym(library, "snd_lib_error_set_handler") : nullptr;
-    if (setHandler) reinterpret_cast<SetHandler>(setHandler)(&IgnoreReport);
-}
+public:
+    explicit Library(const char* Name) : handle(dlopen(Name, RTLD_LAZY)) {}
+    template <class Function>
+    void Find(Function& Found, const char* Symbol) const
+    {
+        Found = reinterpret_cast<Function>(handle ? dlsym(handle, Symbol) : nullptr);
+    }
+
+private:
+    void* handle;
+};
+
+/// The desktop's sounds. Loaded with the first one: a start without sound is the shorter for it.
+struct SoundService
+{
+    decltype(&ca_context_create) Create;
+    decltype(&ca_context_change_props) Describe;
+    decltype(&ca_context_cancel) Cancel;
+    decltype(&ca_context_play) Play;
+    decltype(&ca_context_destroy) Destroy;
+    ca_context* Context = nullptr;
+
+    SoundService()
+    {
+        int (*setHandler)(decltype(&IgnoreReport)) = nullptr;
+        Library("libasound.so.2").Find(setHandler, "snd_lib_error_set_handler");
+        if (setHandler) setHandler(&IgnoreReport);
+        const Library library("libcanberra.so.0");
+        library.Find(Create, "ca_context_create");
+        library.Find(Describe, "ca_context_change_props");
+        library.Find(Cancel, "ca_context_cancel");
+        library.Find(Play, "ca_context_play");
+        library.Find(Destroy, "ca_context_destroy");
+        if (!Create || !Describe || !Cancel || !Play || !Destroy || Create(&Context) != CA_SUCCESS)
+            Context = nullptr;
+        else
+            Describe(Context, CA_PROP_APPLICATION_NAME, "Vellarno", CA_PROP_APPLICATION_ID,
+                     "vellarno", nullptr);
+    }
+    ~SoundService()
+    {
+        if (Context) Destroy(Context);
+    }
+    SoundService(const SoundService&) = delete;
+    SoundService& operator=(const SoundService&) = delete;
+};
 
 /// The service reads sounds from files: the image stands in a file that is in memory alone.
-void PlayImage(ca_context* Context, const std::string& Image)
+void PlayImage(const SoundService& Service, const std::string& Image)
 {
+    if (!Service.Context) return;
     const int file = memfd_create("sound", MFD_CLOEXEC);
     if (file < 0) return;
     if (write(file, Image.data(), Image.size()) == static_cast<ssize_t>(Image.size())) {
         const std::string path = "/proc/self/fd/" + std::to_string(file);
-        ca_context_cancel(Context, SoundId);
-        ca_context_play(Context, SoundId, CA_PROP_MEDIA_FILENAME, path.c_str(), CA_PROP_MEDIA_ROLE,
-                        "event", CA_PROP_CANBERRA_CACHE_CONTROL, "never", nullptr);
+        Service.Cancel(Service.Context, SoundId);
+        Service.Play(Service.Context, SoundId, CA_PROP_MEDIA_FILENAME, path.c_str(),
+                     CA_PROP_MEDIA_ROLE, "event", CA_PROP_CANBERRA_CACHE_CONTROL, "never", nullptr);
     }
     close(file);
 }
@@ -57,12 +101,7 @@ struct SoundPlayer::Channel
 
     void Serve()
     {
-        QuietenSoundCard();
-        ca_context* context = nullptr;
-        const bool usable = ca_context_create(&context) == CA_SUCCESS;
-        if (usable)
-            ca_context_change_props(context, CA_PROP_APPLICATION_NAME, "Vellarno",
-                                    CA_PROP_APPLICATION_ID, "vellarno", nullptr);
+        std::optional<SoundService> service(std::in_place);
         std::unique_lock lock(mutex);
         for (;;) {
             changed.wait(lock, [this] { return waiting || ending; });
@@ -70,11 +109,11 @@ struct SoundPlayer::Channel
             const std::string image = std::move(*waiting);
             waiting.reset();
             lock.unlock();
-            if (usable) PlayImage(context, image);
+            PlayImage(*service, image);
             lock.lock();
         }
         lock.unlock();
-        if (usable) ca_context_destroy(context);
+        service.reset();
         lock.lock();
         ended = true;
         changed.notify_all();

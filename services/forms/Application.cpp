@@ -13,6 +13,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <fontconfig/fontconfig.h>
+#include <thread>
 #include <unistd.h>
 
 namespace vellarno::forms {
@@ -70,11 +72,17 @@ struct Application::Parts
 Application::Application(int& ArgumentCount, char** Arguments)
 {
     {
+        // The list of the system's fonts is read while the display answers.
+        const std::jthread fonts([] { FcInit(); });
         const PreferX11 choice;
         const auto usual = qInstallMessageHandler(TellNoDisplay);
         parts = std::make_unique<Parts>(ArgumentCount, Arguments);
         qInstallMessageHandler(usual);
     }
+    // On X11 all that the toolkit loads at need is in by now: a search through its further picture
+    // formats would find none that is wanted.
+    if (QGuiApplication::platformName() == QLatin1String("xcb"))
+        QCoreApplication::setLibraryPaths({});
     QApplication::setApplicationName(QStringLiteral("vellarno"));
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(QStringLiteral("vellarno"));

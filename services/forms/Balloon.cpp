@@ -37,9 +37,9 @@ constexpr int GapAbove = 2;
 QString PictureOf(int Icon)
 {
     switch (Icon) {
-    case 1: return QStringLiteral(":/pictures/info.svg");
-    case 2: return QStringLiteral(":/pictures/warning.svg");
-    case 3: return QStringLiteral(":/pictures/error.svg");
+    case 1: return QStringLiteral(":/pictures/info.png");
+    case 2: return QStringLiteral(":/pictures/warning.png");
+    case 3: return QStringLiteral(":/pictures/error.png");
     default: return {};
     }
 }

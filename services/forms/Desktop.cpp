@@ -52,8 +52,8 @@ void MsgBox(const std::string& Prompt, MessageStyle Style, const std::string& Ti
     box->setText(
         QString::fromStdString(Prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")));
     box->setWindowTitle(QString::fromStdString(Title));
-    box->setIconPixmap(PicturePixmap(Style == Critical ? QStringLiteral(":/pictures/error.svg")
-                                                       : QStringLiteral(":/pictures/info.svg"),
+    box->setIconPixmap(PicturePixmap(Style == Critical ? QStringLiteral(":/pictures/error.png")
+                                                       : QStringLiteral(":/pictures/info.png"),
                                      MessagePictureSide, box->devicePixelRatioF()));
     box->setStandardButtons(QMessageBox::Ok);
     box->exec();

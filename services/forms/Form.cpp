@@ -93,6 +93,7 @@ void Form::Show(Form* Owner)
     if (!isVisible()) {
         Place();
         show();
+        grab(); // while the window manager is at work, texts and pictures get ready for the paint
         return;
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);

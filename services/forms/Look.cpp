@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QPixmapCache>
 #include <QProxyStyle>
-#include <QSvgRenderer>
 #include <QToolTip>
 
 namespace vellarno::forms {
@@ -13,7 +12,6 @@ namespace vellarno::forms {
 namespace {
 
 constexpr int TextPixels = 11;
-constexpr int IconSide = 48;
 constexpr qreal FieldRadius = 3;
 constexpr qreal PanelRadius = 6;
 constexpr qreal DisabledOpacity = 0.35;
@@ -115,18 +113,15 @@ void DrawPicture(QPainter& Painter, const QRectF& Area, const QString& Path, boo
         QStringLiteral("%1@%2x%3").arg(Path).arg(pixels.width()).arg(pixels.height());
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
-        picture = QPixmap(pixels);
-        picture.fill(Qt::transparent);
-        QPainter into(&picture);
-        QSvgRenderer drawing(Path);
-        drawing.setAspectRatioMode(Qt::KeepAspectRatio);
-        drawing.render(&into);
-        into.end();
+        picture = QPixmap::fromImage(
+            QImage(Path).scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation));
         picture.setDevicePixelRatio(scale);
         QPixmapCache::insert(key, picture);
     }
+    QRectF place({}, picture.deviceIndependentSize());
+    place.moveCenter(Area.center());
     Painter.setOpacity(Enabled ? 1 : DisabledOpacity);
-    Painter.drawPixmap(Area.topLeft(), picture);
+    Painter.drawPixmap(place.topLeft(), picture);
     Painter.setOpacity(1);
 }
 
@@ -163,7 +158,7 @@ void SetUpLook()
                       QStringLiteral("Nimbus Sans"), QStringLiteral("sans-serif")});
     font.setPixelSize(TextPixels);
     QApplication::setFont(font);
-    QApplication::setWindowIcon(PicturePixmap(QStringLiteral(":/pictures/vellarno.svg"), IconSide));
+    QApplication::setWindowIcon(QPixmap(QStringLiteral(":/pictures/vellarno.png")));
     QToolTip::setFont(font);
     QToolTip::setPalette(ToolkitPalette());
 }
