@@ -51,10 +51,10 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-# The libraries that the program is linked to name themselves. The toolkit's own texts are read, and
-# the font and the sound service are found, only while it runs.
+# The libraries that the program is linked to name themselves. The font and the sound service are
+# found only while it runs.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, libcanberra0, qt6-translations-l10n")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, libcanberra0")
 # A browser and a mail program; sounds where the desktop mixes them.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, libcanberra-pulse")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")

@@ -1,7 +1,7 @@
 # Debian packages that the scripts need; sourced by them.
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev librsvg2-bin libcanberra-dev
-  libfontconfig-dev libxcb1-dev qt6-translations-l10n fonts-liberation"
+  libfontconfig-dev libxcb1-dev fonts-liberation"
 DISPLAY_PACKAGES="xvfb openbox xdotool imagemagick"
 TEST_PACKAGES="libgtest-dev tidy binutils python3 x11-utils
   at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi"

@@ -1,13 +1,12 @@
 #include "services/forms/Application.h"
 
 #include "services/forms/Accessibility.h"
+#include "services/forms/Italian.h"
 #include "services/forms/Look.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QSessionManager>
 #include <QSocketNotifier>
-#include <QTranslator>
 
 #include <csignal>
 #include <cstdio>
@@ -57,6 +56,17 @@ void TellNoDisplay(QtMsgType Type, const QMessageLogContext&, const QString&)
     std::_Exit(EXIT_FAILURE);
 }
 
+QtMessageHandler toolkitMessages = nullptr;
+
+/// The toolkit ends the program when the display is gone, and says so in English.
+void TellLostDisplay(QtMsgType Type, const QMessageLogContext& Context, const QString& Message)
+{
+    if (Message.contains(QLatin1String("connection broke")))
+        std::fputs("Lo schermo non risponde più: il programma termina.\n", stderr);
+    else
+        toolkitMessages(Type, Context, Message);
+}
+
 }
 
 struct Application::Parts
@@ -64,7 +74,7 @@ struct Application::Parts
     Parts(int& ArgumentCount, char** Arguments) : application(ArgumentCount, Arguments) {}
 
     QApplication application;
-    QTranslator italian;
+    Italian italian;
     std::unique_ptr<QSocketNotifier> signals;
     std::function<void()> end;
 };
@@ -75,9 +85,9 @@ Application::Application(int& ArgumentCount, char** Arguments)
         // The list of the system's fonts is read while the display answers.
         const std::jthread fonts([] { FcInit(); });
         const PreferX11 choice;
-        const auto usual = qInstallMessageHandler(TellNoDisplay);
+        toolkitMessages = qInstallMessageHandler(TellNoDisplay);
         parts = std::make_unique<Parts>(ArgumentCount, Arguments);
-        qInstallMessageHandler(usual);
+        qInstallMessageHandler(TellLostDisplay);
     }
     // On X11 all that the toolkit loads at need is in by now: a search through its further picture
     // formats would find none that is wanted.
@@ -89,9 +99,7 @@ Application::Application(int& ArgumentCount, char** Arguments)
     QApplication::setQuitOnLastWindowClosed(false);
     SetUpLook();
     SetUpAccessibility();
-    if (parts->italian.load(QStringLiteral("qtbase_it"),
-                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&parts->italian);
+    QApplication::installTranslator(&parts->italian);
 }
 
 Application::~Application() = default;

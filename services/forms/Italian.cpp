@@ -1,0 +1,47 @@
+#include "services/forms/Italian.h"
+
+#include <map>
+#include <string_view>
+
+namespace vellarno::forms {
+
+// A source text means the same wherever the toolkit uses it.
+QString Italian::translate(const char*, const char* Source, const char*, int) const
+{
+    static const std::map<std::string_view, const char*> words = {
+        {"OK", "OK"},
+        // text boxes
+        {"&Undo", "&Annulla"},
+        {"&Redo", "&Ripeti"},
+        {"Cu&t", "&Taglia"},
+        {"&Copy", "&Copia"},
+        {"&Paste", "&Incolla"},
+        {"Delete", "Elimina"},
+        {"Select All", "Seleziona tutto"},
+        // scroll bars
+        {"Scroll here", "Scorri fin qui"},
+        {"Left edge", "Bordo sinistro"},
+        {"Right edge", "Bordo destro"},
+        {"Page left", "Pagina a sinistra"},
+        {"Page right", "Pagina a destra"},
+        {"Scroll left", "Scorri a sinistra"},
+        {"Scroll right", "Scorri a destra"},
+        // actions of a screen reader, and what they do
+        {"Press", "Premi"},
+        {"Triggers the action", "Esegue l'azione"},
+        {"Increase", "Aumenta"},
+        {"Increase the value", "Aumenta il valore"},
+        {"Decrease", "Diminuisci"},
+        {"Decrease the value", "Diminuisce il valore"},
+        {"SetFocus", "Attiva"},
+        {"Sets the focus", "Porta qui la tastiera"},
+        {"Toggle", "Cambia stato"},
+        {"Toggles the state", "Cambia lo stato"},
+        {"ShowMenu", "Mostra menu"},
+        {"Shows the menu", "Mostra il menu"},
+    };
+    const auto found = words.find(Source);
+    return found == words.end() ? QString() : QString::fromUtf8(found->second);
+}
+
+}
