@@ -109,6 +109,7 @@ private:
     void ShowIncompleteData();
     bool ValidateDates();
     void ClearResults();
+    void AnnounceResults();
     void Form_KeyPress(short& KeyAscii);
     void SetDati(int Index, const std::string& Caption) override;
     void SetTotali(int Index, const std::string& Caption) override;

@@ -8,6 +8,7 @@
 #include "engine/Text.h"
 #include "services/App.h"
 #include "services/Platform.h"
+#include "services/forms/Accessibility.h"
 
 namespace vellarno {
 
@@ -36,6 +37,7 @@ void frmMain::cmdCalcola_Click()
         CompareMoments();
     else if (optDataTime[2].Value())
         CompareDates();
+    AnnounceResults();
 }
 
 void frmMain::CompareTimes()
@@ -123,6 +125,15 @@ void frmMain::Form_KeyPress(short& KeyAscii)
     if (KeyAscii != Enter || !dynamic_cast<forms::TextBox*>(ActiveControl())) return;
     forms::SendKeys("{TAB}");
     KeyAscii = 0;
+}
+
+void frmMain::AnnounceResults()
+{
+    std::string all;
+    for (const auto* labels : {&lblWeekDay, &lblDati, &lblTotali})
+        for (const auto& label : *labels)
+            if (!label.Caption().empty()) all += label.AccessibleName() + ", ";
+    if (!all.empty()) forms::Announce(*this, all.substr(0, all.size() - 2));
 }
 
 void frmMain::SetDati(int Index, const std::string& Caption)

@@ -62,6 +62,7 @@ private:
     void txtSommaDati_GotFocus();
     void txtSommaDati_KeyPress(short& KeyAscii);
     void RefuseYear();
+    std::string TypedDate() const;
     void ShowDate(double Value);
     const DateUnit& Unit() const;
 

@@ -5,6 +5,7 @@
 #include "minicalc/frmMiniCalc.h"
 #include "services/App.h"
 #include "services/Platform.h"
+#include "services/forms/Accessibility.h"
 
 namespace vellarno {
 
@@ -42,16 +43,21 @@ const DateUnit& frmMiniCalc::Unit() const
 
 void frmMiniCalc::cmdSommaData_Click()
 {
-    const std::string start = txtData[DayField].Text() + '/' + txtData[MonthField].Text() + '/' +
-                              txtData[YearField].Text();
-    const auto result = StepDate(start, Unit(), txtSommaDati.Text(), optSommaData[1].Value());
+    const auto result = StepDate(TypedDate(), Unit(), txtSommaDati.Text(), optSommaData[1].Value());
     if (result) {
         ShowDate(*result);
         txtSommaDati.SetFocus();
+        forms::Announce(*this, "Data: " + TypedDate());
     } else {
         System().MsgBox(NoDateText, forms::Critical, App::Title);
         txtData[DayField].SetFocus();
     }
+}
+
+std::string frmMiniCalc::TypedDate() const
+{
+    return txtData[DayField].Text() + '/' + txtData[MonthField].Text() + '/' +
+           txtData[YearField].Text();
 }
 
 // A year above the limit has brought today's date back while it was written: that date stands.
@@ -83,7 +89,8 @@ void frmMiniCalc::txtData_Change(int Index)
 void frmMiniCalc::RefuseYear()
 {
     System().MsgBox(YearLimitText, forms::Information, App::Title);
-    cmdClear_Click();
+    // A clock beyond the limit would bring a day that is refused in its turn, without end.
+    if (Year(Date()) <= DateRules[YearField].Limit) cmdClear_Click();
 }
 
 void frmMiniCalc::txtData_GotFocus(int Index)

@@ -96,6 +96,14 @@ private:
     Control& control;
 };
 
+/// Screen readers speak a notification that begins to show, wherever the focus is. This one has
+/// nothing for the eye.
+class Announcer : public QWidget
+{
+public:
+    using QWidget::QWidget;
+};
+
 QAccessibleInterface* MakeInterface(const QString&, QObject* Object)
 {
     if (auto* form = dynamic_cast<Form*>(Object)) return new WindowInterface(*form);
@@ -105,6 +113,8 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* Object)
         return new QAccessibleWidget(strip, QAccessible::StatusBar);
     if (auto* balloon = dynamic_cast<Balloon*>(Object))
         return new QAccessibleWidget(balloon, QAccessible::ToolTip);
+    if (auto* announcer = dynamic_cast<Announcer*>(Object))
+        return new QAccessibleWidget(announcer, QAccessible::Notification);
     return nullptr;
 }
 
@@ -113,6 +123,18 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* Object)
 void SetUpAccessibility()
 {
     QAccessible::installFactory(MakeInterface);
+}
+
+void Announce(Form& Window, const std::string& Text)
+{
+    if (!QAccessible::isActive()) return;
+    QWidget* announcer = nullptr;
+    for (QObject* child : Window.children())
+        if (auto* found = dynamic_cast<Announcer*>(child)) announcer = found;
+    if (!announcer) announcer = new Announcer(&Window);
+    announcer->setAccessibleName(QString::fromStdString(Text));
+    QAccessibleEvent shown(announcer, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&shown);
 }
 
 }
