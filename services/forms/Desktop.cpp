@@ -32,14 +32,15 @@ xcb_connection_t* X11Connection()
 }
 
 /// Where the session names no folder, or one that others may enter, the toolkit takes another and
-/// tells the terminal each time.
-QString RuntimeFolder()
+/// tells the terminal each time it looks.
+template <class Operation>
+auto Quietly(Operation Run)
 {
     const auto usual =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    auto result = Run();
     qInstallMessageHandler(usual);
-    return folder;
+    return result;
 }
 
 }
@@ -88,8 +89,8 @@ bool OpenAddress(const std::string& Address)
 {
     const QString address = QString::fromStdString(Address);
     const QFileInfo file(address);
-    return QDesktopServices::openUrl(file.exists() ? QUrl::fromLocalFile(file.absoluteFilePath())
-                                                   : QUrl(address));
+    const QUrl url = file.exists() ? QUrl::fromLocalFile(file.absoluteFilePath()) : QUrl(address);
+    return Quietly([&url] { return QDesktopServices::openUrl(url); });
 }
 
 bool StartDetached(const std::string& Program, const std::vector<std::string>& Arguments)
@@ -124,13 +125,14 @@ bool Compositing()
 
 std::string PrivateFolder()
 {
-    const QString runtime = RuntimeFolder();
+    const QString runtime =
+        Quietly([] { return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation); });
     if (runtime.isEmpty()) return {};
     const QString folder = runtime + QLatin1String("/vellarno");
-    const auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-    const QFileInfo found(folder);
-    const bool ready = found.isDir() ? !found.isSymLink() : QDir().mkdir(folder, ownerOnly);
-    return ready ? folder.toStdString() : std::string();
+    // Made first, looked at then: another start may make it in the same moment.
+    QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QFileInfo made(folder);
+    return made.isDir() && !made.isSymLink() ? folder.toStdString() : std::string();
 }
 
 std::string ReadResource(const std::string& Path)
