@@ -1,369 +1,427 @@
-#include "tests/monkey/Monkey.h"
-
+#include "engine/CalcDates.h"
+#include "engine/CalcTimes.h"
+#include "engine/Clock.h"
+#include "engine/CountPeriod.h"
+#include "engine/Moments.h"
 #include "engine/Text.h"
+#include "mainwindow/frmMain.h"
+#include "minicalc/Accumulators.h"
 #include "services/GenericBas.h"
+#include "services/forms/Application.h"
 #include "services/frmAbout.h"
+#include "tests/support/Driver.h"
+#include "tests/support/Recorder.h"
 
 #include <QApplication>
+#include <QKeySequence>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <array>
+#include <deque>
+#include <random>
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/common_interface_defs.h>
+#endif
 
-namespace vellarno::test {
+using namespace vellarno;
+using namespace vellarno::forms;
+using namespace vellarno::test;
+using namespace std::string_literals;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::size_t KeptNotes = 40;
-
 /// What a clipboard, a drop or an input method may bring.
-const std::string HostileTexts[] = {"",
-                                    "1",
-                                    "12",
-                                    "00",
-                                    "24",
-                                    "32",
-                                    "2005",
-                                    "2101",
-                                    "310120",
-                                    std::string(20000, '9'),
-                                    std::string("1\0002", 3),
-                                    std::string(1, '\0'),
-                                    "\u202e21",
-                                    "٣٤",
-                                    "１２",
-                                    "²½",
-                                    "😀",
-                                    "1😀",
-                                    "\xed\xa0\x80",
-                                    "\xff\xfe",
-                                    "e\u0301",
-                                    "-1",
-                                    "+5",
-                                    "1e3",
-                                    "1,5",
-                                    " 7 ",
-                                    "32768",
-                                    "99999999999999999999",
-                                    "12\r\n34",
-                                    "\t",
-                                    "0x1f",
-                                    "%s%n",
-                                    "<b>1</b>"};
+const QStringList HostileTexts =
+    u"|1|12|00|24|32|2005|2101|310120|1\0002|\0|\u202e21|٣٤|１２|²½|😀|1😀|\xd800|\xdc00|e\u0301|-1|+"
+    u"5|"
+    "1e3|1,5| 7 |32768|99999999999999999999|12\r\n34|\t|0x1f|%s%n|<b>1</b>"_s.split(u'|')
+    << QString(20000, u'9');
+const QStringList Keys =
+    u"Tab Tab Backtab Backtab Return Enter Esc Space Backspace Del Left Right Up Down Home End "
+    u"PgUp "
+    "PgDown + - A Ctrl+A Ctrl+C Ctrl+V Ctrl+X Ctrl+Z Shift+Ins Shift+Del Shift+Left Menu F1 "
+    "Ctrl+Backspace"_s.split(u' ');
 
-const QKeyCombination Keys[] = {Qt::Key_Tab,
-                                Qt::Key_Tab,
-                                Qt::SHIFT | Qt::Key_Backtab,
-                                Qt::SHIFT | Qt::Key_Backtab,
-                                Qt::Key_Return,
-                                Qt::Key_Enter,
-                                Qt::Key_Escape,
-                                Qt::Key_Space,
-                                Qt::Key_Backspace,
-                                Qt::Key_Delete,
-                                Qt::Key_Left,
-                                Qt::Key_Right,
-                                Qt::Key_Up,
-                                Qt::Key_Down,
-                                Qt::Key_Home,
-                                Qt::Key_End,
-                                Qt::Key_PageUp,
-                                Qt::Key_PageDown,
-                                Qt::Key_Plus,
-                                Qt::Key_Minus,
-                                Qt::Key_A,
-                                Qt::CTRL | Qt::Key_A,
-                                Qt::CTRL | Qt::Key_C,
-                                Qt::CTRL | Qt::Key_V,
-                                Qt::CTRL | Qt::Key_X,
-                                Qt::CTRL | Qt::Key_Z,
-                                Qt::SHIFT | Qt::Key_Insert,
-                                Qt::SHIFT | Qt::Key_Delete,
-                                Qt::SHIFT | Qt::Key_Left,
-                                Qt::CTRL | Qt::Key_Backspace,
-                                Qt::Key_Menu,
-                                Qt::Key_F1};
-
-}
-
-Monkey::Monkey(std::mt19937& Dice) : dice(Dice)
+template <class ControlClass = Control>
+ControlClass& At(const Form& Window, const std::string& Name)
 {
-    desktop.TempFolder = folder.Path;
-    desktop.DuringMessage = [this] {
-        if (OneIn(4)) JumpClock();
-        if (OneIn(40)) form.Close(); // the desktop session ends
-        const auto [prompt, title, style] = desktop.Messages.back();
-        if (OneIn(4)) forms::MsgBox(prompt, style, title);
-    };
-    QObject::connect(&boxWatch, &QTimer::timeout, &boxWatch, [this] { AnswerBox(); });
-    boxWatch.start(0);
-    ClockShows(DateSerial(2026, 11, 22) + 0.5);
+    return dynamic_cast<ControlClass&>(*Window.findChild<QWidget*>(QString::fromStdString(Name)));
 }
 
-Monkey::~Monkey()
-{
-    form.Close();
-    Settle();
-    OnTopFlag = false;
-}
-
-bool Monkey::Act()
-{
-    Step();
-    Settle();
-    if (form.Visible()) {
-        Check();
-    } else {
-        for (const QWidget* window : QApplication::topLevelWidgets())
-            Require(!window->isVisible(), "the main window closes all others");
-    }
-    desktop.Messages.clear();
-    desktop.Sounds.clear();
-    desktop.Opened.clear();
-    desktop.Started.clear();
-    desktop.Log.clear();
-    return form.Visible();
-}
-
-std::string Monkey::Notes() const
+/// What stands on some controls of an array, parted by a slash.
+template <class ControlClass = TextBox>
+std::string Texts(const Form& Window, const std::string& Array, int From, int Count)
 {
     std::string all;
-    for (const std::string& note : notes) all += note + ' ';
-    return all + '\n';
+    for (int i = From; i < From + Count; ++i) {
+        const auto& each = At<ControlClass>(Window, Array + '_' + CStr(i));
+        all += (i > From ? "/" : "") + each.text().toStdString();
+    }
+    return all;
 }
 
-void Monkey::ClockShows(double Moment)
+/// Three boxes of a time, in seconds.
+int Seconds(const Form& Window, int First, const std::string& Array = "txtCalc_")
 {
-    now = Moment;
-    days.insert(static_cast<int>(now));
-    SetClock([Moment] { return Moment; });
+    const auto part = [&](int i) {
+        return CInt(At<TextBox>(Window, Array + CStr(First + i)).Text()).value_or(0);
+    };
+    return part(0) * 3600 + part(1) * 60 + part(2);
 }
 
-void Monkey::Tick()
+/// Whether no box holds a value above its limit.
+bool Hold(const Form& Window, const std::string& Array, std::initializer_list<int> Limits)
 {
-    form.Timer1_Timer();
-    Require(Panel(6) == Format(now, "hh.mm.ss"), "a tick shows the time");
-    Require(Panel(5).find(' ' + Format(now, "dd") + ' ') != std::string::npos,
-            "a tick on a new day of the month updates the strip");
-}
-
-frmMiniCalc* Monkey::Sums()
-{
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (auto* sums = dynamic_cast<frmMiniCalc*>(window); sums && sums->Visible()) return sums;
-    return nullptr;
-}
-
-/// A visible control of one of the kinds.
-template <class... Kinds>
-forms::Control& Monkey::AnyOf(const forms::Form& Form)
-{
-    std::vector<forms::Control*> found;
-    for (forms::Control* control : Form.Controls())
-        if (control->Widget().isVisible() && (dynamic_cast<Kinds*>(control) || ...))
-            found.push_back(control);
-    return *Any(found);
-}
-
-std::string Monkey::Digits(int Most)
-{
-    std::string digits(static_cast<std::size_t>(1 + Below(Most)), '0');
-    for (char& digit : digits) digit = static_cast<char>('0' + Below(10));
-    return digits;
-}
-
-/// The keyboard goes to the window that the mouse was last in, unless a box stands before it.
-void Monkey::Front(forms::Form& Form)
-{
-    if (!QApplication::activeModalWidget()) QApplication::setActiveWindow(&Form);
+    return std::ranges::all_of(Limits, [&, i = 0](int Limit) mutable {
+        const auto& box = At<TextBox>(Window, Array + '_' + CStr(i++));
+        return !box.Enabled() || box.Text().empty() ||
+               CInt(box.Text()).value_or(Limit + 1) <= Limit;
+    });
 }
 
 /// The window may be closed between two keys.
-void Monkey::TypeInto(forms::Form& Form, const std::string& Text)
+void TypeInto(Form& Window, const std::string& Text)
 {
-    const forms::FormRef<> held(Form);
+    const FormRef<> held(Window);
     for (const char key : Text)
-        if (held.Open()) Type(Form, std::string(1, key));
+        if (held.Open()) Type(Window, std::string(1, key));
 }
 
-void Monkey::Step()
+/// One life of the program under the hands of someone who presses, clicks and drags whatever comes
+/// along, in all windows, while the clock jumps. What it does follows from its dice alone.
+struct Monkey
 {
-    static constexpr std::string_view letters =
-        "tttttttkkkkkkkcccccccaaddggmmmwwpoiiFFFSSSllloooooniqvjjTTrhhh";
-    if (!form.Visible()) return;
-    frmMiniCalc* sums = Sums();
-    forms::Form& window = sums && Below(5) < 3 ? static_cast<forms::Form&>(*sums) : form;
-    forms::Control& control = *Any(window.Controls());
-    auto& box = dynamic_cast<forms::TextBox&>(AnyOf<forms::TextBox>(window));
-    const int x = Below(window.ScaleWidth());
-    const int y = Below(window.ScaleHeight());
-    const char letter = Any(letters);
-    const forms::FormRef<> held(window);
-    notes.push_back(letter + (':' + control.Widget().objectName().toStdString()));
-    if (notes.size() > KeptNotes) notes.pop_front();
-    Front(window);
-    switch (letter) {
-    case 't': TypeInto(window, Digits(8)); break;
-    case 'k': {
-        const QKeyCombination key = Any(Keys);
-        for (int i = OneIn(5) ? Below(4) : 0; i >= 0 && held.Open(); --i)
-            Press(window, key.key(), key.keyboardModifiers());
-        break;
+    std::mt19937& Dice;
+    std::deque<std::string> Notes; ///< the last events
+    std::string Broken;            ///< the first rule that did not hold
+    double Clock = DateSerial(2026, 11, 22) + 0.5;
+    const QTemporaryDir Folder;
+    Recorder Desktop;
+    frmMain Main;
+    QTimer BoxWatch;
+    ControlArray<TextBox> txtData{Main, "txtData"}, txtTime{Main, "txtTime"};
+    ControlArray<OptionButton> optDataTime{Main, "optDataTime"};
+
+    explicit Monkey(std::mt19937& Given) : Dice(Given)
+    {
+        Desktop.DuringMessage = [this] {
+            if (OneIn(4)) JumpClock();
+            if (OneIn(40)) Main.Close(); // the desktop session ends
+            const auto [prompt, title, style] = Desktop.Messages.back();
+            if (OneIn(4)) MsgBox(prompt, style, title);
+        };
+        Open(Main);
+        ClockShows(Clock);
+        QObject::connect(&BoxWatch, &QTimer::timeout, &BoxWatch, [this] { AnswerBox(); });
+        BoxWatch.start(0);
     }
-    case 'c': Click(control); break;
-    case 'a': ClickAt(window, x, y); break;
-    case 'd':
-        MouseAct{OneIn(2) ? QTest::MouseDClick : QTest::MouseClick,
-                 Any(std::array{Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})}(control);
-        break;
-    case 'g': Drag(window, control); break;
-    case 'm': OneIn(2) ? MoveTo(lblTotali[Below(9)]) : MoveTo(window, x, y); break;
-    case 'w': Wheel(control, OneIn(2)); break;
-    case 'p': Paste(window, Any(HostileTexts)); break;
-    case 'o': Drop(box, Any(HostileTexts)); break;
-    case 'i':
-        Click(box);
-        if (held.Open() && QGuiApplication::focusObject() == &box) Commit(box, Any(HostileTexts));
-        break;
-    case 'F': FillIn(); break;
-    case 'S':
-        if (sums) FillSums(*sums);
-        break;
-    case 'l': UseCalendar(); break;
-    case 'x': Click(AnyOf<forms::OptionButton, forms::CheckBox>(window)); break;
-    case 'n': PressIcon(); break;
-    case 'v':
-        if (OneIn(4)) window.showMinimized();
-        Settle();
-        if (held.Open()) window.showNormal();
-        break;
-    case 'q':
-        if (sums && !OneIn(8))
-            sums->Close();
-        else if (OneIn(4))
-            form.Close();
-        break;
-    case 'j': JumpClock(); break;
-    case 'T': Tick(); break;
-    case 'r': // long enough for a balloon
-        MoveTo(lblTotali[Below(9)]);
-        Wait(30);
-        break;
-    case 'h': // several events at once: what the first one serves meanwhile meets the others
-        for (int i = Below(3); i >= 0; --i) QTimer::singleShot(0, &boxWatch, [this] { Step(); });
-        Click(AnyOf<forms::OptionButton, forms::CheckBox>(window));
-        break;
-    default: throw std::logic_error("an event without a hand");
+    ~Monkey()
+    {
+        Main.Close(), Settle();
+        OnTopFlag = false;
+        SetClock(nullptr);
     }
-}
 
-/// From one point to another, with something else done meanwhile.
-void Monkey::Drag(forms::Form& Form, forms::Control& Control)
-{
-    const forms::FormRef<> held(Form);
-    MouseDown(Control);
-    if (OneIn(3)) Step();
-    const int x = Below(400);
-    const int y = Below(250);
-    if (held.Open()) MoveTo(Form, x, y);
-    if (held.Open()) MouseUpAt(Form, x, y);
-}
+    int Below(int Count) { return std::uniform_int_distribution(0, Count - 1)(Dice); }
+    bool OneIn(int Chances) { return Below(Chances) == 0; }
+    auto Any(const auto& Of)
+    {
+        return Of[static_cast<std::size_t>(Below(static_cast<int>(std::size(Of))))];
+    }
+    frmMiniCalc* Sums() const
+    {
+        for (QObject* child : Main.children())
+            if (auto* sums = dynamic_cast<frmMiniCalc*>(child); sums && sums->Visible())
+                return sums;
+        return nullptr;
+    }
+    std::string Between(int From, int To) { return Format(From + Below(To - From + 1), "00"); }
+    void Require(bool Holds, const std::string& Rule)
+    {
+        if (!Holds && Broken.empty())
+            Broken = Rule + "\nfields " + Texts(Main, "txtData", 0, 6) + ' ' +
+                     Texts(Main, "txtTime", 0, 6) + "\nshown " + Shown() + "\nof " + Expected();
+    }
 
-/// A whole calculation, mostly one that is possible.
-void Monkey::FillIn()
-{
-    const auto twoDigits = [this](int From, int To) {
-        return Format(From + Below(To - From + 1), "00");
-    };
-    Front(form);
-    for (const int first : {0, 3}) {
-        const bool extreme = OneIn(4);
-        const int year = OneIn(3) ? 1000 + Below(1101) : 2020 + Below(12);
-        if (txtData[0].Enabled()) {
-            Click(txtData[first]);
-            TypeInto(form, extreme ? "3112" : twoDigits(1, 29) + twoDigits(1, 12));
-            TypeInto(form, OneIn(20) ? "0999" : CStr(year));
+    void Step()
+    {
+        if (!Main.Visible()) return;
+        frmMiniCalc* sums = Sums();
+        Form& window = sums && Below(5) < 3 ? static_cast<Form&>(*sums) : Main;
+        Control& control = *Any(window.Controls());
+        Control& box = *Any(window.findChildren<TextBox*>());
+        Control& option = *Any(window.findChildren<OptionButton*>());
+        auto* focused = dynamic_cast<TextBox*>(window.focusWidget());
+        const std::string text = Any(HostileTexts).toStdString();
+        const auto key = QKeySequence(Any(Keys))[0];
+        const MouseAct other{OneIn(2) ? QTest::MouseDClick : QTest::MouseClick,
+                             Any(std::array{Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})};
+        const int x = Below(window.ScaleWidth()), y = Below(window.ScaleHeight());
+        const std::string total = "lblTotali_" + CStr(Below(9));
+        const std::tuple<const char*, int, std::function<void()>> events[] = {
+            {"digits", 7, [&] { TypeInto(window, CStr(Below(100000000))); }},
+            {"key", 7, [&] { Press(window, key.key(), key.keyboardModifiers()); }},
+            {"click", 7, [&] { Click(control); }},
+            {"click at", 2, [&] { ClickAt(window, x, y); }},
+            {"other click", 2, [&] { other(control); }},
+            {"press", 2, [&] { MouseDown(control); }}, // a drag, with anything done meanwhile
+            {"move", 2, [&] { MoveTo(window, x, y); }},
+            {"let go", 2, [&] { MouseUpAt(window, x, y); }},
+            {"option", 4, [&] { Click(option); }},
+            {"tick", 2, [&] { Click(At(Main, OneIn(2) ? "chkDayInt" : "chkWorkSat")); }},
+            {"pass", 1, [&] { MoveTo(At(Main, total)); }},
+            {"rest", 1, [&] { MoveTo(At(Main, total)), Wait(30); }}, // a balloon comes
+            {"wheel", 2, [&] { Wheel(control, OneIn(2)); }},
+            {"paste", 1, [&] { Paste(window, text); }},
+            {"drop", 2, [&] { Drop(box, text); }},
+            {"commit", 3, [&] { focused ? Commit(*focused, text) : Click(box); }},
+            {"calculate", 4, [&] { Calculate(); }},
+            {"sum", 3, [&] { sums ? Sum(*sums) : Calculate(); }},
+            {"calendar", 3, [&] { Click(At(Main, "cmdNowData_" + CStr(Below(2)))); }},
+            {"month", 2, [&] { Wheel(At(Main, "hscDataScroll"), OneIn(2)); }},
+            {"day", 2, [&] { Click(At(Main, "GIORNO_" + CStr(1 + Below(42)))); }},
+            {"icon", 1, [&] { Click(At(Main, "picToolBarra_" + CStr(Below(4)))); }},
+            {"open sums", 1, [&] { Click(At(Main, "picToolBarra_3")); }},
+            {"pin", 1, [&] { Click(At(Main, "imgOnTop")); }},
+            {"minimise", 1, [&] { window.showMinimized(); }},
+            {"restore", 1, [&] { window.showNormal(); }},
+            {"close", 1, [&] { OneIn(&window == &Main ? 4 : 1) ? window.Close() : Settle(); }},
+            {"clock", 3, [&] { JumpClock(); }},
+            // What the click serves meanwhile meets another event.
+            {"two at once", 4,
+             [&] { QTimer::singleShot(0, &BoxWatch, [this] { Step(); }), Click(option); }},
+        };
+        std::vector<int> weights;
+        for (const auto& event : events) weights.push_back(std::get<int>(event));
+        std::discrete_distribution<std::size_t> lot(weights.begin(), weights.end());
+        const auto& [name, weight, act] = events[lot(Dice)];
+        Notes.push_back(name + " "s + control.Widget().objectName().toStdString());
+        if (Notes.size() > 40) Notes.pop_front();
+        Desktop.TempFolder = Folder.filePath(OneIn(3) ? u"missing"_s : u"."_s).toStdString();
+        Desktop.IsComposited = OneIn(50); // a window fades in then
+        // The keyboard goes to the window that the mouse is in, unless a box stands before it.
+        if (!QApplication::activeModalWidget()) QApplication::setActiveWindow(&window);
+        act();
+    }
+
+    void ClockShows(double Moment)
+    {
+        SetClock([Moment] { return Moment; });
+        Clock = Moment;
+        Main.Timer1_Timer();
+        Require(At<PictureBox>(Main, "picBarra_6").PrintedText() == Format(Moment, "hh.mm.ss"),
+                "a tick shows the time");
+    }
+    void JumpClock()
+    {
+        const int year = 2020 + Below(10);
+        ClockShows(Any(std::array{
+            DateSerial(year, 12, 31) + TimeSerial(23, 59, 59), DateSerial(year, 1, 1), Clock - 1,
+            Clock + 1, Clock + TimeSerial(0, 0, 1), Below(99999) + Below(86400) / 86400.0}));
+    }
+
+    /// Runs while a box stands: plays with it, and in the end closes it.
+    void AnswerBox()
+    {
+        QWidget* box = QApplication::activeModalWidget();
+        if (!box || !box->windowHandle()) return;
+        auto* about = dynamic_cast<frmAbout*>(box);
+        const int choice = Below(9);
+        Notes.push_back("box " + CStr(choice));
+        if (choice == 0) ClickAt(Main, Below(Main.ScaleWidth()), Below(Main.ScaleHeight()));
+        if (choice == 1) Type(Main, "12");
+        if (choice == 2) JumpClock();
+        if (choice == 3 && OneIn(8)) Main.Close();
+        if (choice == 4) QTest::keyClick(box->windowHandle(), Qt::Key_Escape);
+        if (choice == 5) QTest::keyClick(box->windowHandle(), Qt::Key_Return);
+        if (choice > 5) about ? Click(*Any(about->Controls())) : void(box->close());
+    }
+
+    /// A whole calculation, mostly one that is possible.
+    void Calculate()
+    {
+        const auto enter = [this](TextBox& Box, const std::string& Digits) {
+            if (!Box.Enabled()) return;
+            Box.SetText(Digits);
+            Require(Box.Text() == Digits, "values within the limit are taken");
+        };
+        for (const int i : {0, 3}) {
+            const bool last = OneIn(4); // of the year
+            enter(txtData[i], last ? "31" : Between(1, 29));
+            enter(txtData[i + 1], last ? "12" : Between(1, 12));
+            enter(txtData[i + 2], OneIn(20) ? "0999" : Between(OneIn(3) ? 1000 : 2020, 2100));
+            enter(txtTime[i], last ? "12" : Between(0, 23));
+            enter(txtTime[i + 1], last ? "00" : Between(0, 59));
+            enter(txtTime[i + 2], last ? "00" : Between(0, 59));
         }
-        if (txtTime[0].Enabled()) {
-            Click(txtTime[first]);
-            TypeInto(form,
-                     extreme ? "120000" : twoDigits(0, 23) + twoDigits(0, 59) + twoDigits(0, 59));
+        At<CommandButton>(Main, "cmdCalcola").Click(); // nothing else happens meanwhile
+        Require(Expected().empty() || Shown() == Expected(), "what can be calculated is");
+    }
+
+    /// A sum, compared with one worked out apart from the window.
+    void Sum(frmMiniCalc& Form)
+    {
+        const EventUnderWay underWay(Form); // as for a click: it outlives a box that it shows
+        const auto chosen = [&](const std::string& Option) {
+            return At<OptionButton>(Form, Option).Value();
+        };
+        const auto date = [&] { return Texts(Form, "txtData", 0, 3); };
+        if (OneIn(2)) Click(At(Form, OneIn(2) ? "txtData_0" : "txtCalc_0"));
+        if (Form.Visible()) TypeInto(Form, CStr(Below(100000000)) + Any("+-*"s));
+        if (!Form.Visible()) return;
+        const int step = Seconds(Form, 3) * (chosen("optSomma_0") ? 1 : -1);
+        const int total = 30 * 86400 + Seconds(Form, 0) + step;
+        if (chosen("optBase_0")) {
+            At<CommandButton>(Form, "cmdSommaOre").Click();
+            Require(Seconds(Form, 0) == total % 86400, "the running time is the sum");
+            return;
+        }
+        int unit = 0; // the legend follows its option only once the click has sounded
+        while (!chosen("optTipoDati_" + CStr(unit))) ++unit;
+        const std::string number = At<TextBox>(Form, "txtSommaDati").Text();
+        const auto sum = StepDate(date(), DateUnits[unit], number, chosen("optSommaData_1"));
+        At<CommandButton>(Form, "cmdSommaData").Click();
+        Require(!sum || CDate(date()) == (Year(*sum) > 2300 ? vellarno::Date() : *sum),
+                "the running date is the sum, or today beyond the last year");
+    }
+
+    std::string Shown() const
+    {
+        return Texts<Label>(Main, "lblDati", 0, 6) + '/' + Texts<Label>(Main, "lblTotali", 0, 9) +
+               '/' + Texts<Label>(Main, "lblWeekDay", 0, 2) + '/';
+    }
+    /// What a calculation with the fields as they stand has to show, nothing if none is possible.
+    std::string Expected() const
+    {
+        const bool dates = !optDataTime[0].Value(), times = !optDataTime[2].Value();
+        Moment ends[2]{};
+        for (Moment& end : ends) {
+            const int first = &end == ends ? 0 : 3;
+            const auto day = CDate(Texts(Main, "txtData", first, 3));
+            const std::string time = '/' + Texts(Main, "txtTime", first, 3) + '/';
+            if (dates && (!day || CInt(txtData[first + 2].Text()) < 1000)) return {};
+            if (times && time.find("//") != std::string::npos) return {};
+            if (dates) end.Day = *day;
+            if (times) end.TimeOfDay = TimeSerial(0, 0, Seconds(Main, first, "txtTime_"));
+        }
+        if (!dates && ends[1].TimeOfDay < ends[0].TimeOfDay) ends[1].Day = 1;
+        const auto [start, end, counted] = OrderMoments(ends[0], ends[1]);
+        const double last = counted + (times ? 0 : At<CheckBox>(Main, "chkDayInt").Value());
+        const bool saturdays = At<CheckBox>(Main, "chkWorkSat").Value() == 1;
+        const TimeFigures t = TimeDifference(start, end);
+        const DateFigures d = DateDifference(start, last);
+        const PeriodFigures p = CountPeriod(CLng(start), CLng(last), saturdays);
+        std::string all;
+        const auto print = [&](bool Used, std::initializer_list<std::int64_t> Figures) {
+            for (const auto figure : Figures) all += (Used ? Format(figure, "0,0") : "") + '/';
+        };
+        print(dates, {d.Years, d.Months, d.Days});
+        print(times, {t.Hours, t.Minutes, t.Seconds});
+        print(dates,
+              {d.TotalDays, d.TotalWeeks, p.WorkingDays, p.Saturdays, p.Sundays, p.Holidays});
+        print(times, {t.TotalHours, t.TotalMinutes, t.TotalSeconds});
+        for (const Moment& each : ends) all += WeekdayText(dates ? Weekday(each.Day, 1) : 0) + '/';
+        return all;
+    }
+
+    void Check()
+    {
+        const frmMiniCalc* sums = Sums();
+        const bool calendar = At(Main, "picCalendario").Visible();
+        const std::string shown = Shown();
+        const bool empty = shown.find_first_not_of('/') == std::string::npos;
+        const std::pair<const char*, bool> invariants[] = {
+            {"results belong to the fields", empty || shown == Expected()},
+            {"dates hold what their rules take",
+             Hold(Main, "txtData", {31, 12, 2100, 31, 12, 2100}) &&
+                 (!sums || Hold(*sums, "txtData", {31, 12, 2300}))},
+            {"times hold what their rules take",
+             Hold(Main, "txtTime", {23, 59, 59, 23, 59, 59}) &&
+                 (!sums || Hold(*sums, "txtCalc", {23, 59, 59, 23, 999, 999}))},
+            {"no day and no month is 00",
+             (Texts(Main, "txtData", 0, 2) + '/' + Texts(Main, "txtData", 3, 2)).find("00") ==
+                 std::string::npos},
+            {"the mode's fields can be used", txtData[0].Enabled() != optDataTime[0].Value() &&
+                                                  txtTime[0].Enabled() != optDataTime[2].Value()},
+            {"the calendar is open only in a mode with dates",
+             !calendar || !optDataTime[0].Value()},
+            {"no result stands beside the calendar", !calendar || empty},
+            {"the calendar has its shadow", At(Main, "shpShadow").Visible() == calendar},
+            {"one balloon at most", ShownBalloons().size() <= 1},
+            {"no box is left behind", !QApplication::activeModalWidget()},
+            {"no hourglass is left behind", !QApplication::overrideCursor()},
+        };
+        for (const auto& [rule, holds] : invariants) Require(holds || !Main.Visible(), rule);
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            Require(Main.Visible() || !window->isVisible(), "the main window closes all others");
+            Require(!window->focusWidget() || window->focusWidget()->isEnabled(),
+                    "the focus is on an enabled control or nowhere");
         }
     }
-    Click(cmdCalcola);
+};
+
+unsigned seed = 0;
+int event = 0;
+const Monkey* running = nullptr;
+
+void TellPlace()
+{
+    if (!running) return;
+    for (const auto& note : running->Notes) std::fprintf(stderr, "%s\n", note.c_str());
+    std::fprintf(stderr, "seed %u, event %d: %s\n", seed, event, running->Broken.c_str());
 }
 
-void Monkey::FillSums(frmMiniCalc& Form)
+/// What the toolkit complains of is a fault too; what the offscreen platform can't do is none.
+void TakeComplaint(QtMsgType, const QMessageLogContext&, const QString& Text)
 {
-    const forms::FormRef<> held(Form);
-    const auto part = [&](const char* Name) -> forms::Control& {
-        return *dynamic_cast<forms::Control*>(Form.findChild<QWidget*>(QLatin1String(Name)));
-    };
-    Front(Form);
-    if (OneIn(2)) Click(part(OneIn(2) ? "txtData_0" : "txtCalc_0"));
-    if (held.Open()) TypeInto(Form, Digits(10));
-    if (held.Open() && OneIn(3)) Type(Form, OneIn(2) ? "+" : "-");
-    if (held.Open()) Click(part(OneIn(2) ? "cmdSommaData" : "cmdSommaOre"));
+    if (Text.startsWith(QLatin1String("This plugin does not support"))) return;
+    TellPlace();
+    std::fprintf(stderr, "%s\n", qPrintable(Text));
+    std::abort();
 }
 
-void Monkey::UseCalendar()
+/// Life after life. @return false if something didn't hold.
+bool Run(unsigned Seed, int Events, bool TimeAlone = false)
 {
-    Front(form);
-    Click(cmdNowData[Below(2)]);
-    for (int i = Below(4); i > 0 && form.Visible(); --i) {
-        if (OneIn(2)) Wheel(hscDataScroll, OneIn(2));
-        if (OneIn(3)) Click(txtCalMeseAnno);
-        if (OneIn(3))
-            Press(form, Any(std::array{Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
-                                       Qt::Key_PageUp, Qt::Key_PageDown}));
+    std::printf("monkey: seed %u, %d events\n", seed = Seed, Events);
+    std::fflush(stdout);
+    std::mt19937 dice(Seed);
+    bool held = true;
+    for (event = 0; held && event < Events;) {
+        Monkey life(dice);
+        running = &life;
+        while (life.Broken.empty() && life.Main.Visible() && event++ < Events) {
+            TimeAlone ? life.ClockShows(life.Clock + TimeSerial(0, 1, 0)) : life.Step();
+            Settle();
+            life.Check();
+        }
+        held = life.Broken.empty();
+        if (!held) TellPlace();
+        running = nullptr;
     }
-    if (OneIn(2) && form.Visible()) Click(GIORNO[1 + Below(42)]);
+    return held;
 }
 
-void Monkey::PressIcon()
+}
+
+/// monkey               two short runs, one of them of a random seed
+/// monkey SEED EVENTS   that run; a seed with the same events repeats it
+/// monkey --days DAYS   the window stands open for days, and its clock alone goes on
+int main(int ArgumentCount, char** Arguments)
 {
-    const std::string home = folder.Path;
-    desktop.TempFolder = Any(std::array<std::string, 4>{home, home, "", home + "/missing"});
-    desktop.CanOpen = !OneIn(4);
-    desktop.IsComposited = OneIn(50); // the window fades in then
-    desktop.IsInstalled = [there = OneIn(2)](const std::string&) { return there; };
-    Front(form);
-    Click(picToolBarra[OneIn(2) ? 3 : Below(4)]);
-    frmMiniCalc* sums = Sums();
-    if (!sums || sums->property("watched").toBool()) return;
-    sums->setProperty("watched", true);
-    WatchSums(*sums);
-}
-
-void Monkey::JumpClock()
-{
-    const int year = 2020 + Below(10);
-    ClockShows(
-        Any(std::array{DateSerial(year, 12, 31) + TimeSerial(23, 59, 59), DateSerial(year, 1, 1),
-                       DateSerial(1970, 1, 1) + Below(66000) + Below(86400) / 86400.0, now - 1,
-                       now + 1, now + TimeSerial(0, 0, 1)}));
-}
-
-/// Runs while a box stands: plays with it, and in the end closes it.
-void Monkey::AnswerBox()
-{
-    QWidget* box = QApplication::activeModalWidget();
-    if (!box || !box->windowHandle()) return;
-    const int choice = Below(10);
-    notes.push_back("box" + CStr(choice));
-    switch (choice) {
-    case 0: ClickAt(form, Below(form.ScaleWidth()), Below(form.ScaleHeight())); break;
-    case 1: Type(form, "12"); break;
-    case 2: JumpClock(); break;
-    case 3: Tick(); break;
-    case 4: box->close(); break;
-    case 5:
-        if (OneIn(8)) form.Close();
-        break;
-    case 6: QTest::keyClick(box->windowHandle(), Qt::Key_Escape); break;
-    case 7: QTest::keyClick(box->windowHandle(), Qt::Key_Return); break;
-    default:
-        if (auto* about = dynamic_cast<frmAbout*>(box)) Click(*Any(about->Controls()));
-    }
-}
-
+    const Application application(ArgumentCount, Arguments);
+    qInstallMessageHandler(TakeComplaint);
+#if defined(__SANITIZE_ADDRESS__)
+    __sanitizer_set_death_callback(TellPlace);
+#endif
+    if (ArgumentCount < 3)
+        return Run(20261122, 1000) && Run(std::random_device{}(), 1000) ? EXIT_SUCCESS
+                                                                        : EXIT_FAILURE;
+    const bool days = Arguments[1] == "--days"s;
+    const int amount = std::atoi(Arguments[2]);
+    const auto given = static_cast<unsigned>(std::atoll(Arguments[1]));
+    return Run(given, days ? amount * 1440 : amount, days) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

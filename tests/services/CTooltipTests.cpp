@@ -16,9 +16,7 @@ struct Tooltips : testing::Test
 
     Tooltips()
     {
-        tip.SetStyle(CTooltip::BalloonStyle);
-        tip.SetDelayTime(1);
-        tip.SetIcon(1);
+        tip.SetStyle(CTooltip::BalloonStyle), tip.SetDelayTime(1), tip.SetIcon(1);
         tip.SetTipText("prima riga\r\nseconda riga");
         Open(form);
         form.move(200, 300);
@@ -71,26 +69,24 @@ TEST_F(Tooltips, OpensAfterTheDelayOfARestAndClosesAfterItsTime)
     EXPECT_FALSE(None(50));
     EXPECT_TRUE(WaitUntil([] { return None(); }));
     for (const int at : {-100, 10}) PutPointer(form, at, at);
-    EXPECT_TRUE(None(700)) << "it has been, until the next Create";
+    EXPECT_TRUE(None(450)) << "it has been, until the next Create";
 }
 
 TEST_F(Tooltips, ThereIsNeverMoreThanOneAndItGoesAtOnce)
 {
-    for (const bool onTop : {false, true}) {
-        tip.Create(form, onTop);
-        EXPECT_TRUE(None()) << "it waits for its delay";
-        EXPECT_EQ(Standing().windowFlags().testFlag(Qt::WindowStaysOnTopHint), onTop);
-    }
-    const std::function<void()> ends[] = {[&] { tip.Destroy(), tip.Destroy(); },
-                                          [&] { PutPointer(form, -100, -100); },
-                                          [&] { form.showMinimized(); }, [&] { form.Close(); }};
-    for (const auto& end : ends) {
+    for (int end = 0; end < 4; ++end) {
         form.showNormal();
         PutPointer(form, 100, 100);
-        tip.Create(form, false);
-        Standing();
-        end();
-        EXPECT_TRUE(None());
+        for (const bool onTop : {false, true}) {
+            tip.Create(form, onTop);
+            EXPECT_TRUE(None()) << "it waits for its delay";
+            EXPECT_EQ(Standing().windowFlags().testFlag(Qt::WindowStaysOnTopHint), onTop);
+        }
+        if (end == 0) tip.Destroy(), tip.Destroy();
+        if (end == 1) PutPointer(form, -100, -100);
+        if (end == 2) form.showMinimized();
+        if (end == 3) form.Close();
+        EXPECT_TRUE(None()) << end;
     }
 }
 
@@ -101,8 +97,7 @@ TEST_F(Tooltips, StaysOnTheScreenAndOffThePointer)
         const int right = i % 2, bottom = i / 2 % 2, centered = i / 4 % 2;
         form.move(right * (screen.right() - 400), bottom * (screen.bottom() - 300));
         PutPointer(form, 1 + right * 397, 1 + bottom * 297);
-        tip.SetCentered(centered);
-        tip.SetStyle(i / 8);
+        tip.SetCentered(centered), tip.SetStyle(i / 8);
         tip.Create(form, false);
         const QRect area = Standing().geometry();
         EXPECT_TRUE(screen.contains(area) && (centered || !area.contains(QCursor::pos()))) << i;

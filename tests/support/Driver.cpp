@@ -102,12 +102,6 @@ void Paste(forms::Form& Form, const std::string& Text)
     Press(Form, Qt::Key_Insert, Qt::ShiftModifier);
 }
 
-void PasteByMiddleButton(forms::Control& Control, const std::string& Text)
-{
-    QGuiApplication::clipboard()->setText(QString::fromStdString(Text), QClipboard::Selection);
-    MouseAct{QTest::MouseClick, Qt::MiddleButton}(Control);
-}
-
 void Drop(forms::Control& Control, const std::string& Text)
 {
     QWindow* window = WindowOf(Control.Widget());

@@ -40,8 +40,6 @@ void Wheel(forms::Control& Control, bool Up);
 void Commit(forms::Control& Control, const std::string& Text);
 /// Puts the text on the clipboard and presses Shift+Insert.
 void Paste(forms::Form& Form, const std::string& Text);
-/// Selects the text elsewhere and clicks the control with the middle button.
-void PasteByMiddleButton(forms::Control& Control, const std::string& Text);
 /// Drags the text over the control and drops it there, if it is taken.
 void Drop(forms::Control& Control, const std::string& Text);
 

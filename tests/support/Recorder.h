@@ -17,12 +17,10 @@ public:
         forms::MessageStyle Style;
     };
 
-    int Beeps = 0;
     std::vector<Message> Messages;
-    std::vector<int> Sounds;          ///< ids of the resources; 0 for any other bytes
-    std::vector<std::string> Opened;  ///< files and addresses
-    std::vector<std::string> Started; ///< programs with their arguments, parted by blanks
-    std::vector<std::string> Log; ///< all in order: "beep", "message PROMPT", "sound 202", "open …"
+    std::vector<std::string> Opened; ///< files and addresses
+    /// All in order, with a comma behind each: beep, message 64 TITLE: PROMPT, sound 202, start …
+    std::string Log;
 
     std::string TempFolder;                                      ///< what PrivateFolder gives
     bool IsComposited = false;                                   ///< what Compositing gives
@@ -33,34 +31,32 @@ public:
     Recorder() { SetPlatform(this); }
     ~Recorder() override { SetPlatform(nullptr); }
 
-    void Beep() override { Log.emplace_back("beep"), ++Beeps; }
+    void Beep() override { Log += "beep, "; }
     void MsgBox(const std::string& Prompt, forms::MessageStyle Style,
                 const std::string& Title) override
     {
         Messages.push_back({Prompt, Title, Style});
-        Log.push_back("message " + Prompt);
+        Log += "message " + std::to_string(Style) + ' ' + Title + ": " + Prompt + ", ";
         if (DuringMessage) DuringMessage();
     }
     void PlaySound(const std::string& WaveImage) override
     {
-        Sounds.push_back(0);
         for (const int id : {201, 202})
-            if (WaveImage == forms::ReadResource(resources::Custom(id))) Sounds.back() = id;
-        Log.push_back("sound " + std::to_string(Sounds.back()));
+            if (WaveImage == forms::ReadResource(resources::Custom(id)))
+                Log += "sound " + std::to_string(id) + ", ";
     }
     bool OpenAddress(const std::string& Address) override
     {
         Opened.push_back(Address);
-        Log.push_back("open " + Address);
         return CanOpen;
     }
     bool StartProgram(const std::string& Program,
                       const std::vector<std::string>& Arguments) override
     {
         if (IsInstalled && !IsInstalled(Program)) return false;
-        Started.push_back(Program);
-        for (const auto& argument : Arguments) Started.back() += ' ' + argument;
-        Log.push_back("start " + Started.back());
+        Log += "start " + Program;
+        for (const auto& argument : Arguments) Log += ' ' + argument;
+        Log += ", ";
         return true;
     }
     std::string PrivateFolder() override { return TempFolder; }
