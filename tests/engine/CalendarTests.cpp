@@ -115,20 +115,14 @@ TEST(Calendar, TimesKeepEverySecondAndMonthsTheirDay)
 TEST(Calendar, StepsDistancesAndToday)
 {
     const double LastSecond = TimeSerial(23, 59, 59);
-    const std::tuple<double, const char*, int, const char*> Rows[] = {
-        {-0.75, "m", 1, "29 gen 1900 06.00.00"},
-        {1 - 1e-9, "d", 0, "30 dic 1899 00.00.00"},
-        {DateSerial(2005, 12, 31) + LastSecond, "s", 1, "01 gen 2006 00.00.00"},
-        {LastDate - 0.5, "d", 1, "31 dic 9999 12.00.00"},
-        {FirstDate + 1, "d", -1, "01 gen 0100 00.00.00"}};
-    for (const auto& [x, Interval, Number, Result] : Rows)
-        EXPECT_EQ(Format(DateAdd(Interval, Number, x).value_or(0), "dd mmm yyyy hh.mm.ss"), Result);
+    EXPECT_EQ(DateAdd("s", 1, 38717 + LastSecond), 38718);
+    EXPECT_EQ(DateAdd("s", 38400, *DateAdd("n", 20, *DateAdd("h", 13, 0))), 1) << "exactly";
+    EXPECT_EQ(DateAdd("q", 2, *DateAdd("ww", 3, 38353)), DateSerial(2005, 7, 22));
+    EXPECT_EQ(DateAdd("d", 1, LastDate - 0.5), LastDate + 0.5);
     for (const char* Interval : {"s", "n", "h", "d", "ww", "m", "q"}) {
         EXPECT_FALSE(DateAdd(Interval, -1, FirstDate)) << Interval;
         EXPECT_FALSE(DateAdd(Interval, 1, LastDate + LastSecond)) << Interval;
     }
-    EXPECT_EQ(DateAdd("s", 38400, *DateAdd("n", 20, *DateAdd("h", 13, 0))), 1) << "exactly";
-    EXPECT_EQ(DateAdd("q", 2, *DateAdd("ww", 3, 38353)), DateSerial(2005, 7, 22));
     EXPECT_EQ(DateDiff("d", LastSecond - 1, TimeSerial(0, 0, 1)), 1);
 
     const auto Utc = DateSerial(1970, 1, 1) + static_cast<double>(std::time(nullptr)) / 86400;
@@ -140,10 +134,7 @@ TEST(Calendar, StepsDistancesAndToday)
 TEST(Text, Formats)
 {
     const std::tuple<int, const char*, const char*> Rows[] = {
-        {5, "00", "05"},     {123, "00", "123"},
-        {-2, "00", "-02"},   {999, "0000", "0999"},
-        {0, "0,0", "00"},    {-123, "0,0", "-123"},
-        {999, "0,0", "999"}, {1234567, "0,0", "1.234.567"}};
+        {-2, "00", "-02"}, {999, "0000", "0999"}, {-123, "0,0", "-123"}, {1000, "0,0", "1.000"}};
     for (const auto& [Value, Pattern, Result] : Rows) EXPECT_EQ(Format(Value, Pattern), Result);
     const double Monday = DateSerial(1994, 1, 3) + TimeSerial(14, 5, 9);
     EXPECT_EQ(Format(Monday, " dddd  dd mmm yy hh.mm.ss"), " lunedì  03 gen 94 14.05.09");
@@ -153,17 +144,14 @@ TEST(Text, Formats)
                      "lug Sabatoago set ott nov dic ");
 }
 
-TEST(Text, ReadsAndRoundsNumbersAndReadsDates)
+TEST(Text, ReadsDates)
 {
     std::string Read;
-    for (const char* Text : {"0007", "32767", "32768", "", "-1", " 1"})
-        Read += CStr(CInt(Text).value_or(-1)) + " ";
     for (const char* Text : {"5/3/0", " 5 / 3 / 29 ", "5/3/30", "05/03/99", "5/3/100", "29/2/2008"})
         Read += Format(CDate(Text).value_or(0), "dd mmm yyyy, ");
-    EXPECT_EQ(Read, "7 32767 -1 -1 -1 -1 05 mar 2000, 05 mar 2029, 05 mar 1930, 05 mar 1999, "
-                    "05 mar 0100, 29 feb 2008, ");
+    EXPECT_EQ(Read, "05 mar 2000, 05 mar 2029, 05 mar 1930, 05 mar 1999, 05 mar 0100, "
+                    "29 feb 2008, ");
     for (const char* Text : {"31/4/2009", "29/2/1900", "0/1/2009", "1/0/2009", "1/13/2009",
                              "1/1/10000", "1/1/65545", "", "//", "1/1/", "1/1/2009/", "1 1/1/2009"})
         EXPECT_FALSE(IsDate(Text)) << Text;
-    EXPECT_EQ(CLng(38354.5), 38354);
 }

@@ -31,9 +31,6 @@ static void Check(std::string_view Text)
     const auto value = CDbl(Text);
     Require(value ? IsNumeric(padded) && padded.size() >= 2 : padded == Text, "numbers are padded");
     Require(value.value_or(1e16) >= 1e15 || WithoutLeadingZeros(padded) == digits, "and kept");
-    std::string grouped = Format(Text, "0,0");
-    std::erase(grouped, '.');
-    Require(!value || grouped == padded, "points between groups are all that \"0,0\" adds");
 
     const auto date = CDate(Text);
     Require(IsDate(Text) == date.has_value(), "a date is what CDate reads");
@@ -42,8 +39,7 @@ static void Check(std::string_view Text)
         CStr(Day(moment)) + '/' + CStr(Month(moment)) + '/' + Format(moment, "yyyy");
     Require(!date || (*date >= FirstDate && *date <= LastDate && CDate(printed) == date),
             "printed, it reads the same");
-    const std::string literal = Format(moment, Text);
-    Require(Text.find_first_of("0dmyhs") != Text.npos || literal == Text, "other text stands");
+    Format(moment, Text); // whatever pattern it is
 }
 
 #ifdef FUZZING

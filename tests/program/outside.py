@@ -1,12 +1,10 @@
-"""The program as others see it: its windows, the figures on its screen, and how it ends."""
+"""The program as others see it: its windows, what its screen shows, and how it ends."""
 
-import itertools, os, pathlib, re, shutil, subprocess, tempfile, time
+import os, pathlib, re, shutil, subprocess, tempfile, time
 from xml.etree import ElementTree
 
 PATIENCE = 15  # seconds, for a program under sanitizers on a busy machine
 MAIN, MESSAGE, SUMS, ABOUT = "Vellarno 2.0", "Vellarno", "Calcoli tra tempo e tra date", "Informazioni"
-TIMES, DATES = ([f"{field}_{i}" for i in range(6)] for field in ("txtTime", "txtData"))
-TOTALS = [f"lblTotali_{i}" for i in range(9)]
 
 
 def places(widget, left=0, top=0):
@@ -31,13 +29,9 @@ def xdo(*command):
     return output("xdotool", *command).decode().split()
 
 
-def state(window, name):
-    return output("xprop", "-id", window, name).decode()
-
-
-def wait(condition, what, patience=PATIENCE):
+def wait(condition, what):
     """The first true value of the condition."""
-    end = time.monotonic() + patience
+    end = time.monotonic() + PATIENCE
     while not (value := condition()):
         assert time.monotonic() < end, f"waited in vain for {what}"
         time.sleep(0.02)
@@ -56,7 +50,7 @@ class Program:
             (self.home / tool).write_text(f'#!/bin/sh\necho "{tool} $*" >>"$HOME/asked"\n')
             (self.home / tool).chmod(0o700)
         (self.home / "leaks").write_text("leak:libfontconfig\nleak:libdbus-1\n")  # those libraries' own
-        (self.home / "fonts").write_text(  # a digit looks the same wherever it stands
+        (self.home / "fonts").write_text(  # a figure looks the same wherever it stands
             f"""<fontconfig>{fonts}<match target="font"><edit name="antialias"><bool>false</bool></edit>
             <edit name="hintstyle"><const>hintfull</const></edit></match></fontconfig>""")
         variables = os.environ | dict.fromkeys(("HOME", "XDG_RUNTIME_DIR", "TMPDIR"), self.home) | {
@@ -78,6 +72,9 @@ class Program:
     def window(self, title=MAIN):
         return wait(lambda: self.windows(title), f"the window {title!r}")[0]
 
+    def properties(self, title=MAIN):
+        return output("xprop", "-id", self.window(title)).decode()
+
     def click(self, *controls, title=MAIN):
         for control in controls:
             left, top, width, height = (n * self.scale for n in PLACES[title][control])
@@ -88,48 +85,23 @@ class Program:
         xdo("windowactivate", "--sync", self.window(title))
         xdo("key", "--delay", 8, *keys)
 
-    def enter(self, field, digits):
-        self.click(field)
-        self.press(*digits)
+    def enter(self, field, digits, title=MAIN):
+        self.click(field, title=title)
+        self.press(*digits, title=title)
 
-    def dismiss(self):
-        """Waits for a message and closes it."""
-        self.press("Return", title=MESSAGE)
-        wait(lambda: not self.windows(MESSAGE), "the end of the message")
+    def picture(self, control, title=MAIN):
+        """The text inside a control's frame, cut close."""
+        left, top, width, height = (n * self.scale for n in PLACES[title][control])
+        frame = 3 * self.scale * control.startswith("lbl")
+        cut = f"{width - 2 * frame}x{height - 2 * frame}+{left + frame}+{top + frame}"
+        size, bits = output("import", "-silent", "-window", self.window(title), "-crop", cut, "+dither", "-monochrome",
+                            "-trim", "pbm:-").split(b"\n", 2)[1:]
+        return size, bits * (self.scale == 1)  # enlarged letters may stand between two pixels
 
-    def difference(self):
-        """Lets the program take 12:34:56 from 07:08:09. The entry, which holds every digit, tells what
-        a digit looks like here."""
-        self.enter("txtTime_0", "123456070809")
-        shapes = wait(lambda: len(found := sum(self.shapes(TIMES), [])) == 12 and found, "twelve digits")
-        self.digits = dict(zip(shapes, "123456070809"))
-        self.click("cmdCalcola")
-
-    def read(self, controls, title=MAIN):
-        reach = range(1 - self.scale, self.scale)  # enlarged letters may stand between two pixels
-
-        def beyond(one, other):
-            return len(one - {(x + dx, y + dy) for x, y in other for dx in reach for dy in reach})
-
-        def text(shape):
-            nearest = min(self.digits, key=lambda digit: beyond(digit, shape) + beyond(shape, digit))
-            return "." if max(y for _, y in shape) < 2 * self.scale else self.digits[nearest]
-        return " ".join("".join(map(text, shapes)) for shapes in self.shapes(controls, title))
-
-    def shapes(self, controls, title=MAIN):
-        """The separate shapes in each control from left to right, as the cells that are inked, counted
-        from the shape's left and the line's foot."""
-        picture = output("import", "-silent", "-window", self.window(title), "-depth", 8, "ppm:-")
-        _, size, _, rgb = picture.split(b"\n", 3)
-        row, green = int(size.split()[0]), rgb[1::3]  # green tells black and pure red from white alike
-        for control in controls:
-            left, top, width, height = (n * self.scale for n in PLACES[title][control])
-            frame = 3 * self.scale * control.startswith("lbl")
-            columns = [{y for y in range(top + frame, top + height - frame) if green[y * row + x] < 128}
-                       for x in range(left + frame, left + width - frame)]
-            foot = max(set.union(*columns), default=0)
-            yield [frozenset((x, foot - y) for x, column in enumerate(run) for y in column)
-                   for inked, run in itertools.groupby(columns, bool) if inked]
+    def wait_until_alike(self, controls, models, title=MAIN):
+        """A figure is read by its likeness to one that was typed."""
+        for pair in zip(controls.split(), models.split(), strict=True):
+            wait(lambda: len({self.picture(control, title) for control in pair}) == 1, f"the likeness of {pair}")
 
     def close(self):
         """Asks as the user does until the program is gone, boxes first."""

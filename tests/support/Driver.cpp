@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QCursor>
 #include <QMimeData>
 #include <QTest>
 #include <QWheelEvent>
@@ -70,16 +69,8 @@ void MouseAct::operator()(const forms::Form& Form, int X, int Y) const
     QTest::mouseEvent(static_cast<QTest::MouseAction>(Action), WindowOf(Form), Button, {}, {X, Y});
 }
 
-const MouseAct Click{QTest::MouseClick}, ClickAt = Click;
-const MouseAct MouseDown{QTest::MousePress}, MouseDownAt = MouseDown;
-const MouseAct MouseUp{QTest::MouseRelease}, MouseUpAt = MouseUp;
-const MouseAct MoveTo{QTest::MouseMove, Qt::NoButton};
-
-void PutPointer(forms::Form& Form, int X, int Y)
-{
-    QCursor::setPos(Form.mapToGlobal(QPoint(X, Y)));
-    Settle();
-}
+const MouseAct Click{QTest::MouseClick}, MouseDown{QTest::MousePress};
+const MouseAct MouseUp{QTest::MouseRelease}, MoveTo{QTest::MouseMove, Qt::NoButton};
 
 void Wheel(forms::Control& Control, bool Up)
 {

@@ -30,9 +30,7 @@ struct MouseAct
     void operator()(const forms::Control& Control) const;
     void operator()(const forms::Form& Form, int X, int Y) const;
 };
-extern const MouseAct Click, ClickAt, MouseDown, MouseDownAt, MouseUp, MouseUpAt, MoveTo;
-/// Sets the pointer itself, for what asks where it is; MoveTo tells the form alone of a pointer.
-void PutPointer(forms::Form& Form, int X, int Y);
+extern const MouseAct Click, MouseDown, MouseUp, MoveTo;
 /// One notch of the wheel over the middle of the control.
 void Wheel(forms::Control& Control, bool Up);
 

@@ -11,21 +11,13 @@ namespace vellarno::test {
 class Recorder : public Platform
 {
 public:
-    struct Message
-    {
-        std::string Prompt, Title;
-        forms::MessageStyle Style;
-    };
-
-    std::vector<Message> Messages;
-    std::vector<std::string> Opened; ///< files and addresses
-    /// All in order, with a comma behind each: beep, message 64 TITLE: PROMPT, sound 202, start …
+    /// In order, with a comma behind each: beep, message 64 TITLE: PROMPT, sound 202, start …,
+    /// open ADDRESS
     std::string Log;
 
-    std::string TempFolder;                                      ///< what PrivateFolder gives
-    bool IsComposited = false;                                   ///< what Compositing gives
-    bool CanOpen = true;                                         ///< what OpenAddress gives
-    std::function<bool(const std::string& Program)> IsInstalled; ///< empty: every program is
+    std::string TempFolder;              ///< what PrivateFolder gives
+    bool IsComposited = false;           ///< what Compositing gives
+    std::string OnlyProgram;             ///< the one that is installed; empty: every program is
     std::function<void()> DuringMessage; ///< runs while the message box would stand
 
     Recorder() { SetPlatform(this); }
@@ -35,7 +27,6 @@ public:
     void MsgBox(const std::string& Prompt, forms::MessageStyle Style,
                 const std::string& Title) override
     {
-        Messages.push_back({Prompt, Title, Style});
         Log += "message " + std::to_string(Style) + ' ' + Title + ": " + Prompt + ", ";
         if (DuringMessage) DuringMessage();
     }
@@ -47,13 +38,13 @@ public:
     }
     bool OpenAddress(const std::string& Address) override
     {
-        Opened.push_back(Address);
-        return CanOpen;
+        Log += "open " + Address + ", ";
+        return true;
     }
     bool StartProgram(const std::string& Program,
                       const std::vector<std::string>& Arguments) override
     {
-        if (IsInstalled && !IsInstalled(Program)) return false;
+        if (!OnlyProgram.empty() && OnlyProgram != Program) return false;
         Log += "start " + Program;
         for (const auto& argument : Arguments) Log += ' ' + argument;
         Log += ", ";

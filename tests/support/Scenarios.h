@@ -6,12 +6,12 @@
 #include "services/forms/PictureBox.h"
 #include "services/forms/TextBox.h"
 #include "tests/support/Driver.h"
-#include "tests/support/Folder.h"
 #include "tests/support/Recorder.h"
 
 #include <QApplication>
 #include <QDateTime>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -31,13 +31,13 @@ using Text = const QString&;
 template <class FormClass>
 struct Stage
 {
-    const Folder folder;
+    const QTemporaryDir folder;
     Recorder desktop;
     QPointer<FormClass> form{new FormClass}; ///< some forms delete themselves when closed
 
     Stage()
     {
-        desktop.TempFolder = folder.Path;
+        desktop.TempFolder = folder.path().toStdString();
         Do("clock:2026-11-22T14:05:09");
         Open(*form);
     }
@@ -83,11 +83,35 @@ struct Stage
         }
     }
 
+    /// What the subjects show.
+    QString See(Text Subject) const
+    {
+        QStringList all;
+        const QString property = Subject.contains('.') ? Subject.section('.', 1) : "text";
+        for (Text name : Subject.section('.', 0, 0).split(','))
+            all += sights.contains(name) ? sights.at(name)() : Look(name, property);
+        const QString seen = all.join(' ').remove('\r').replace('\n', '/');
+        if (seen.contains(QRegularExpression("^[- ]*$"))) return "none";
+        return QString(seen).remove(QRegularExpression("[, ]+$")).trimmed();
+    }
+    /// All that stand open, by name.
+    static std::map<QString, QWidget*> Windows()
+    {
+        std::map<QString, QWidget*> open;
+        for (QWidget* each : QApplication::topLevelWidgets())
+            if (QString name = each->objectName(); each->isVisible()) {
+                while (open.contains(name)) name += '+'; // another one of the kind
+                open[name] = each;
+            }
+        return open;
+    }
+
 private:
     QWidgetList Find(Text Name) const
     {
         const QRegularExpression name('^' + Name + '$');
         auto found = form->template findChildren<QWidget*>(name);
+        found.removeIf([this](auto* each) { return each->window() != form; }); // an owned one's
         std::ranges::sort(found, {}, &QWidget::objectName);
         if (form->objectName() == Name) found.push_back(form);
         if (found.empty()) throw std::logic_error("there is no " + Name.toStdString());
@@ -112,43 +136,24 @@ private:
         const auto day = static_cast<double>(QDate(1899, 12, 30).daysTo(at.date()));
         SetClock([now = day + at.time().msecsSinceStartOfDay() / 86400000.0] { return now; });
     }
-    static std::map<QString, QWidget*> Windows()
-    {
-        std::map<QString, QWidget*> open;
-        for (QWidget* each : QApplication::topLevelWidgets())
-            if (QString name = each->objectName(); each->isVisible()) {
-                while (open.contains(name)) name += '+'; // another one of the kind
-                open[name] = each;
-            }
-        return open;
-    }
     const std::map<QString, std::function<void(Text)>> verbs{
         {"click", [this](Text where) { Mouse(Click, where); }},
         {"clock", StopClock},
         {"close", [](Text window) { Windows().at(window)->close(); }},
         {"commit", [this](Text text) { Commit(*form->ActiveControl(), text.toStdString()); }},
+        {"disable", [this](Text name) { At(name).SetEnabled(false); }},
         {"down", [this](Text where) { Mouse(MouseDown, where); }},
         {"drop", [this](Text text) { Drop(*form->ActiveControl(), text.toStdString()); }},
+        {"enable", [this](Text name) { At(name).SetEnabled(true); }},
         {"focus", [this](Text name) { At(name).SetFocus(); }},
         {"forget", [this](Text) { desktop.Log.clear(); }},
-        {"only",
-         [this](Text it) { desktop.IsInstalled = [it](auto& s) { return it == s.c_str(); }; }},
+        {"only", [this](Text program) { desktop.OnlyProgram = program.toStdString(); }},
         {"over", [this](Text where) { Mouse(MoveTo, where); }},
         {"paste", [this](Text text) { Paste(*form, text.toStdString()); }},
         {"soon", [this](Text step) { QTimer::singleShot(0, form, [this, step] { Do(step); }); }},
         {"until", [this](Text it) { WaitUntil([&] { return Holds(it); }); }},
         {"up", [this](Text where) { Mouse(MouseUp, where); }}};
 
-    QString See(Text Subject) const
-    {
-        QStringList all;
-        const QString property = Subject.contains('.') ? Subject.section('.', 1) : "text";
-        for (Text name : Subject.section('.', 0, 0).split(','))
-            all += sights.contains(name) ? sights.at(name)() : Look(name, property);
-        const QString seen = all.join(' ').remove('\r').replace('\n', '/');
-        if (seen.contains(QRegularExpression("^[- ]*$"))) return "none";
-        return QString(seen).remove(QRegularExpression("[, ]+$")).trimmed();
-    }
     bool Holds(Text Expectation) const
     {
         const QString is = See(Expectation.section('=', 0, 0).trimmed());
