@@ -58,12 +58,13 @@ void TellNoDisplay(QtMsgType Type, const QMessageLogContext&, const QString&)
 
 QtMessageHandler toolkitMessages = nullptr;
 
-/// The toolkit ends the program when the display is gone, and says so in English.
+/// The toolkit ends the program when the display is gone, and says so in English. That a language
+/// has no table of composed characters is no matter for a user.
 void TellLostDisplay(QtMsgType Type, const QMessageLogContext& Context, const QString& Message)
 {
     if (Message.contains(QLatin1String("connection broke")))
         std::fputs("Lo schermo non risponde più: il programma termina.\n", stderr);
-    else
+    else if (qstrcmp(Context.category, "qt.xkb.compose") != 0)
         toolkitMessages(Type, Context, Message);
 }
 
