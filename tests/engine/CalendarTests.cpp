@@ -134,7 +134,7 @@ TEST(Calendar, StepsDistancesAndToday)
 TEST(Text, Formats)
 {
     const std::tuple<int, const char*, const char*> Rows[] = {
-        {-2, "00", "-02"}, {999, "0000", "0999"}, {-123, "0,0", "-123"}, {1000, "0,0", "1.000"}};
+        {-2, "00", "-02"}, {-123, "0,0", "-123"}, {1234567, "0,0", "1.234.567"}};
     for (const auto& [Value, Pattern, Result] : Rows) EXPECT_EQ(Format(Value, Pattern), Result);
     const double Monday = DateSerial(1994, 1, 3) + TimeSerial(14, 5, 9);
     EXPECT_EQ(Format(Monday, " dddd  dd mmm yy hh.mm.ss"), " lunedì  03 gen 94 14.05.09");

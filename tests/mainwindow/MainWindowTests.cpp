@@ -124,13 +124,15 @@ until:picBarra_3=326 | PANELS=domenica  22 nov 2026 14.05.09 4° 46 5 326 39; pi
 clock:2008-01-01T00:00:00 until:picBarra_3=1 | PANELS=martedì  01 gen 2008 00.00.00 1° 0 52 1 365
 clock:2005-12-31T00:00:00 until:picBarra_3=365 | PANELS=sabato  31 dic 2005 00.00.00 4° 52 0 365 0
 clock:2008-04-01T00:00:00 until:picBarra_3=92 | PANELS=martedì  01 apr 2008 00.00.00 2° 13 39 92 274
+clock:1970-01-03T00:00:00 until:picBarra_3=3 | PANELS=sabato  03 gen 1970 00.00.00 1° 0 52 3 362
+clock:2150-07-02T12:00:00 until:picBarra_3=183 | PANELS=giovedì  02 lug 2150 12.00.00 3° 26 26 183 182
 clock:2004-12-31T23:59:59 until:picBarra_3=366 | PANELS=venerdì  31 dic 2004 23.59.59 4° 52 0 366 0; picBarra_4.accessibleName=Giorni mancanti a fine anno: 0
 clock:2005-10-31T08:00:01 until:picBarra_6=08.00.01 | picBarra_5=venerdì  31 dic 2004; picBarra_5.accessibleName=Data di oggi: venerdì  31 dic 2004; picBarra_6.accessibleName=Ora: 08.00.01
 
 Toolbar: imgOnTop | windows=frmMain*; imgOnTop.Picture=:/pictures/pin-on.png | picToolBarra_3 | windows=frmMain* frmMiniCalc*; log=sound 201 | imgOnTop | windows=frmMain frmMiniCalc*; imgOnTop.Picture=:/pictures/pin-off.png
 picToolBarra_3 | windows=frmMain frmMiniCalc*; log=sound 201 | txtTime_0 080000090000 cmdCalcola | lblDati_3=01 | close:frmMiniCalc picToolBarra_3 | windows=frmMain frmMiniCalc
 picToolBarra_0 | log=start gnome-control-center datetime | only:mate-time-admin picToolBarra_0 | log=start mate-time-admin | only:none picToolBarra_0 | log=none
-soon:close:frmAbout picToolBarra_1 | windows=frmMain frmMiniCalc; log=none | soon:close:frmMain picToolBarra_1 | windows=none
+soon:imgOnTop soon:close:frmAbout picToolBarra_1 | windows=frmMain frmMiniCalc; log=none | soon:close:frmMain picToolBarra_1 | windows=none
 )");
 }
 

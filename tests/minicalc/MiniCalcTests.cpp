@@ -40,6 +40,9 @@ GO | D=29 03 2020 Somma 1 mesi txtSommaDati | txtData_2 2300 999 GO | D=22 11 20
 9 txtData_2 2301 | D=22 11 2026 Somma 000 mesi txtSommaDati; log=beep, beep, NOYEAR
 - optBase_0 | T=00 00 00 Somma 00 00 00 txtCalc_3 | optBase_1 | D=22 11 2026 Sottrai 000 mesi txtSommaDati
 
+AClockBeyondTheLimitIsRefusedOnce: clock:2301-03-05T00:00:00 optBase_1 | D=00 00 - Somma 0000 giorni txtSommaDati; log=sound 202, beep, beep, NOYEAR
+clock:2026-11-22T14:05:09 cmdClear | D=22 11 2026 Somma 0000 giorni txtSommaDati
+
 TITLE = lblTitoloHelp  HELP = lblHelpTxt  SIDES = picBase_\d.visible  WHOLE = lblHelpTxt.whole=1
 HelpAndLegendBelongToTheChoiceOnScreen: optFormat_1 | TITLE=~MINUTI E SECONDI; HELP=~superiore a 60; WHOLE; lblTime_1=hh : mmm : sss | optFormat_0 | HELP=~e secondi che; WHOLE; lblTime_1=hh  :  mm  :  ss
 optBase_1 | TITLE=~TRIMESTRI; HELP=~i giorni; WHOLE; SIDES=01 | optTipoDati_1 | TITLE=~TRIMESTRI; HELP=~le settimane; WHOLE | optTipoDati_2 | HELP=~i mesi; WHOLE

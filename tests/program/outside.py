@@ -72,9 +72,6 @@ class Program:
     def window(self, title=MAIN):
         return wait(lambda: self.windows(title), f"the window {title!r}")[0]
 
-    def properties(self, title=MAIN):
-        return output("xprop", "-id", self.window(title)).decode()
-
     def click(self, *controls, title=MAIN):
         for control in controls:
             left, top, width, height = (n * self.scale for n in PLACES[title][control])
@@ -90,18 +87,18 @@ class Program:
         self.press(*digits, title=title)
 
     def picture(self, control, title=MAIN):
-        """The text inside a control's frame, cut close."""
+        """The text inside a control's frame, cut close; false where there is none."""
         left, top, width, height = (n * self.scale for n in PLACES[title][control])
         frame = 3 * self.scale * control.startswith("lbl")
         cut = f"{width - 2 * frame}x{height - 2 * frame}+{left + frame}+{top + frame}"
         size, bits = output("import", "-silent", "-window", self.window(title), "-crop", cut, "+dither", "-monochrome",
                             "-trim", "pbm:-").split(b"\n", 2)[1:]
-        return size, bits * (self.scale == 1)  # enlarged letters may stand between two pixels
+        return size != b"1 1" and (size, bits * (self.scale == 1))  # enlarged letters may stand between two pixels
 
-    def wait_until_alike(self, controls, models, title=MAIN):
+    def wait_until_alike(self, pairs, title=MAIN):
         """A figure is read by its likeness to one that was typed."""
-        for pair in zip(controls.split(), models.split(), strict=True):
-            wait(lambda: len({self.picture(control, title) for control in pair}) == 1, f"the likeness of {pair}")
+        for control, entry in pairs.items():
+            wait(lambda: (seen := self.picture(control, title)) and seen == self.picture(entry, title), control)
 
     def close(self):
         """Asks as the user does until the program is gone, boxes first."""

@@ -3,8 +3,6 @@
 #include "resources/Resources.h"
 #include "services/Platform.h"
 
-#include <functional>
-
 namespace vellarno::test {
 
 /// Takes the platform's place while it lives, and takes note of what would have left the process.
@@ -15,10 +13,9 @@ public:
     /// open ADDRESS
     std::string Log;
 
-    std::string TempFolder;              ///< what PrivateFolder gives
-    bool IsComposited = false;           ///< what Compositing gives
-    std::string OnlyProgram;             ///< the one that is installed; empty: every program is
-    std::function<void()> DuringMessage; ///< runs while the message box would stand
+    std::string TempFolder;    ///< what PrivateFolder gives
+    bool IsComposited = false; ///< what Compositing gives
+    std::string OnlyProgram;   ///< the one that is installed; empty: every program is
 
     Recorder() { SetPlatform(this); }
     ~Recorder() override { SetPlatform(nullptr); }
@@ -28,7 +25,6 @@ public:
                 const std::string& Title) override
     {
         Log += "message " + std::to_string(Style) + ' ' + Title + ": " + Prompt + ", ";
-        if (DuringMessage) DuringMessage();
     }
     void PlaySound(const std::string& WaveImage) override
     {

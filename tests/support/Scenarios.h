@@ -21,6 +21,23 @@ namespace vellarno::test {
 
 using Text = const QString&;
 
+/// An empty form on which a test lays out the controls that it needs.
+struct Workbench : forms::Form
+{
+    Workbench() : Form(forms::FormBorder::FixedSingle) { setFixedSize(400, 300); }
+
+    template <class ControlClass>
+    ControlClass& Add(const char* Name, int Left = 0, int Top = 0, int Width = 80, int Height = 20,
+                      QWidget* Container = nullptr)
+    {
+        auto* made = new ControlClass(Container ? Container : this);
+        made->setObjectName(QString::fromUtf8(Name));
+        made->Move(Left, Top, Width, Height);
+        made->SetVisible(true);
+        return *made;
+    }
+};
+
 /// A window on screen on 22/11/2026, a recorder behind it, and before it someone who goes by words.
 /// Steps: a control's name gives a text box the focus and clicks anything else; <Tab> is a key;
 /// digits, + and - are typed, other text in quotes; BOX:=TEXT writes; VERB:ARGUMENT as below.
@@ -95,14 +112,11 @@ struct Stage
         return QString(seen).remove(QRegularExpression("[, ]+$")).trimmed();
     }
     /// All that stand open, by name.
-    static std::map<QString, QWidget*> Windows()
+    static std::multimap<QString, QWidget*> Windows()
     {
-        std::map<QString, QWidget*> open;
+        std::multimap<QString, QWidget*> open;
         for (QWidget* each : QApplication::topLevelWidgets())
-            if (QString name = each->objectName(); each->isVisible()) {
-                while (open.contains(name)) name += '+'; // another one of the kind
-                open[name] = each;
-            }
+            if (each->isVisible()) open.emplace(each->objectName(), each);
         return open;
     }
 
@@ -139,7 +153,7 @@ private:
     const std::map<QString, std::function<void(Text)>> verbs{
         {"click", [this](Text where) { Mouse(Click, where); }},
         {"clock", StopClock},
-        {"close", [](Text window) { Windows().at(window)->close(); }},
+        {"close", [](Text window) { Windows().find(window)->second->close(); }},
         {"commit", [this](Text text) { Commit(*form->ActiveControl(), text.toStdString()); }},
         {"disable", [this](Text name) { At(name).SetEnabled(false); }},
         {"down", [this](Text where) { Mouse(MouseDown, where); }},
@@ -152,7 +166,8 @@ private:
         {"paste", [this](Text text) { Paste(*form, text.toStdString()); }},
         {"soon", [this](Text step) { QTimer::singleShot(0, form, [this, step] { Do(step); }); }},
         {"until", [this](Text it) { WaitUntil([&] { return Holds(it); }); }},
-        {"up", [this](Text where) { Mouse(MouseUp, where); }}};
+        {"up", [this](Text where) { Mouse(MouseUp, where); }},
+        {"wheel", [this](Text where) { Wheel(At(where), true); }}};
 
     bool Holds(Text Expectation) const
     {
