@@ -177,7 +177,8 @@ TEST(MainWindow, TheHelpPageIsWrittenWholeOpenedAndTidiedAway)
 {
     namespace fs = std::filesystem;
     Stage<frmMain> stage;
-    const fs::path page = stage.desktop.TempFolder + "/HelpVellarno.htm", victim = page.string() + ".txt";
+    const fs::path page = stage.desktop.TempFolder + "/HelpVellarno.htm",
+                   victim = page.string() + ".txt";
     const QString opens = "picToolBarra_2 | log=open " + QString::fromStdString(page);
     for (int press = 0; press < 100; ++press) stage.Play(opens);
     EXPECT_EQ(fs::status(page).permissions(), fs::perms::owner_read | fs::perms::owner_write);
