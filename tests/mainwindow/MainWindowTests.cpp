@@ -122,6 +122,7 @@ PANELS = picBarra_5,picBarra_6,picBarra_[0-4]
 Strip: | PANELS.x=1 143 201 236 271 306 341; PANELS.width=138 54 31 31 31 31 31; picToolBarra_\d.x=401 451 426 376; picToolBarra_\d.width=21 26 21 21
 until:picBarra_3=326 | PANELS=domenica  22 nov 2026 14.05.09 4° 46 5 326 39; picBarra_1.toolTip=Settimane trascorse da inizio anno
 clock:2008-01-01T00:00:00 until:picBarra_3=1 | PANELS=martedì  01 gen 2008 00.00.00 1° 0 52 1 365
+clock:2008-01-07T00:00:00 until:picBarra_3=7 | PANELS=lunedì  07 gen 2008 00.00.00 1° 0 51 7 359
 clock:2005-12-31T00:00:00 until:picBarra_3=365 | PANELS=sabato  31 dic 2005 00.00.00 4° 52 0 365 0
 clock:2008-04-01T00:00:00 until:picBarra_3=92 | PANELS=martedì  01 apr 2008 00.00.00 2° 13 39 92 274
 clock:1970-01-03T00:00:00 until:picBarra_3=3 | PANELS=sabato  03 gen 1970 00.00.00 1° 0 52 3 362
