@@ -52,6 +52,16 @@ void DrawShadow(QPainter& Painter, const QRect& Area)
         Painter.drawRoundedRect(Area.adjusted(i, i, -i, -i), PanelRadius, PanelRadius);
 }
 
+/// The drawing at its own size if that is the one wanted, else the large one shrunk to the pixel.
+QImage PictureOfSize(const QString& Path, const QSize& Pixels)
+{
+    const QImage own(Path);
+    if (own.size() == own.size().scaled(Pixels, Qt::KeepAspectRatio)) return own;
+    QString large = Path;
+    large.insert(Path.lastIndexOf(u'.'), QStringLiteral("@3x"));
+    return QImage(large).scaled(Pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
 /// The palette comes from the style, not from the application: colours set there are copied for
 /// each widget, and the toolkit would keep pictures of the buttons of every window ever opened.
 class ToolkitStyle : public QProxyStyle
@@ -113,8 +123,7 @@ void DrawPicture(QPainter& Painter, const QRectF& Area, const QString& Path, boo
         QStringLiteral("%1@%2x%3").arg(Path).arg(pixels.width()).arg(pixels.height());
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
-        picture = QPixmap::fromImage(
-            QImage(Path).scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        picture = QPixmap::fromImage(PictureOfSize(Path, pixels));
         picture.setDevicePixelRatio(scale);
         QPixmapCache::insert(key, picture);
     }
