@@ -5,6 +5,7 @@
 #include "services/forms/Look.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QSessionManager>
 #include <QSocketNotifier>
 
@@ -13,6 +14,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <fontconfig/fontconfig.h>
+#include <latch>
 #include <thread>
 #include <unistd.h>
 
@@ -72,8 +74,23 @@ void TellLostDisplay(QtMsgType Type, const QMessageLogContext& Context, const QS
 
 struct Application::Parts
 {
-    Parts(int& ArgumentCount, char** Arguments) : application(ArgumentCount, Arguments) {}
+    Parts(int& ArgumentCount, char** Arguments) : application(ArgumentCount, Arguments)
+    {
+        toolkitStarted.count_down();
+    }
+    ~Parts() { fonts.join(); }
 
+    /// Reads the system's fonts while the display answers and the first window is made. Only to ask
+    /// for one makes the toolkit list them all.
+    void ListFonts()
+    {
+        FcInit();
+        toolkitStarted.wait();
+        QFontDatabase::isFixedPitch(QStringLiteral("Sans"));
+    }
+
+    std::latch toolkitStarted{1};
+    std::jthread fonts{[this] { ListFonts(); }};
     QApplication application;
     Italian italian;
     std::unique_ptr<QSocketNotifier> signals;
@@ -83,8 +100,6 @@ struct Application::Parts
 Application::Application(int& ArgumentCount, char** Arguments)
 {
     {
-        // The list of the system's fonts is read while the display answers.
-        const std::jthread fonts([] { FcInit(); });
         const PreferX11 choice;
         toolkitMessages = qInstallMessageHandler(TellNoDisplay);
         parts = std::make_unique<Parts>(ArgumentCount, Arguments);

@@ -53,6 +53,21 @@ Form::~Form()
     if (modalLoop) modalLoop->quit();
 }
 
+void Form::ComeUp(const EarlyWindow& Window)
+{
+    early = true;
+    SetCaption(Window.Caption);
+    setFixedSize(Window.Width, Window.Height);
+    Place();
+    show();
+}
+
+void Form::ShowControls()
+{
+    for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (!child->testAttribute(Qt::WA_WState_ExplicitShowHide)) child->show();
+}
+
 bool Form::LoadOnce()
 {
     closed = false;
@@ -93,7 +108,10 @@ void Form::Show(Form* Owner)
     if (!isVisible()) {
         Place();
         show();
-        grab(); // while the window manager is at work, texts and pictures get ready for the paint
+        return;
+    }
+    if (std::exchange(early, false)) {
+        ShowControls();
         return;
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);

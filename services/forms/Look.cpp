@@ -166,6 +166,8 @@ void SetUpLook()
                       QStringLiteral("Arimo"), QStringLiteral("Helvetica"),
                       QStringLiteral("Nimbus Sans"), QStringLiteral("sans-serif")});
     font.setPixelSize(TextPixels);
+    // Italian words and digits: there is nothing to search the other fonts for.
+    font.setStyleStrategy(QFont::NoFontMerging);
     QApplication::setFont(font);
     QApplication::setWindowIcon(QPixmap(QStringLiteral(":/pictures/vellarno.png")));
     QToolTip::setFont(font);

@@ -21,7 +21,7 @@ INCOMPLETE = message 64 Vellarno:       - Impossibile eseguire il calcolo: dati 
 START = message 64 Vellarno: Nella casella 'Data inizio' è stata  END = message 64 Vellarno: Nella casella 'Data fine' è stata
 NODATE = immessa una data non valida!/Verificare i dati e riprovare.  NOYEAR = immesso un anno non valido!/Verificare i dati e riprovare.
 
-Modes: | log=none; frmMain.windowTitle=Vellarno 2.0; frmMain.width=480; frmMain.height=312; picCalendario.visible=0; R,D,T=none
+Modes: | log=none; frmMain.windowTitle=Vellarno 2.0; frmMain.width=480; frmMain.height=312; imgBorder,picCalendario.visible=1 0; R,D,T=none
 | ALL=000000 111111 00001111 11111111 00000000000 000000111 00 11 00 0 0; PICTURE=100; imgBorder.y=115; focus=txtTime_0
 080000090000 TIMES | T=08 00 00 09 00 00; log=none; lblTotali_5.enabled=0
 MOMENTS forget: DATES | INDATES; log=sound 202 | MOMENTS | INMOMENTS; log=sound 202 | TIMES | INTIMES; log=sound 202
