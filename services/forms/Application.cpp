@@ -6,6 +6,8 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QLibraryInfo>
+#include <QPluginLoader>
 #include <QSessionManager>
 #include <QSocketNotifier>
 
@@ -38,7 +40,14 @@ class PreferX11
 public:
     PreferX11()
     {
-        if (!chosen) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+        if (chosen) return;
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+        // Two threads in the loader and the memory map at once take longer than one after the other:
+        // what X11 needs is loaded before the fonts are read beside it.
+        if (qEnvironmentVariableIsSet("DISPLAY"))
+            QPluginLoader(QLibraryInfo::path(QLibraryInfo::PluginsPath) +
+                          QStringLiteral("/platforms/libqxcb.so"))
+                .load();
     }
     ~PreferX11()
     {
