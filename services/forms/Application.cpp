@@ -42,8 +42,8 @@ public:
     {
         if (chosen) return;
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");
-        // Two threads in the loader and the memory map at once take longer than one after the other:
-        // what X11 needs is loaded before the fonts are read beside it.
+        // Two threads in the loader and the memory map at once take longer than one after the
+        // other: what X11 needs is loaded before the fonts are read beside it.
         if (qEnvironmentVariableIsSet("DISPLAY"))
             QPluginLoader(QLibraryInfo::path(QLibraryInfo::PluginsPath) +
                           QStringLiteral("/platforms/libqxcb.so"))

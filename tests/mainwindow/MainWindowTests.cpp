@@ -2,6 +2,8 @@
 #include "mainwindow/frmMain.h"
 #include "tests/support/Scenarios.h"
 
+#include <QDir>
+#include <QImage>
 #include <chrono>
 #include <fstream>
 
@@ -172,6 +174,18 @@ TEST(MainWindow, EveryMonthFromTheYear1000To2100)
         bar.SetValue(bar.Value() + 1);
     }
     EXPECT_EQ(bar.Value(), 1); // December of the last year steps into its January
+}
+
+TEST(MainWindow, EveryPictureIsThereForFinerPixelsToo)
+{
+    const QDir pictures(QStringLiteral(":/pictures"));
+    for (QString name : pictures.entryList()) {
+        if (name.contains(u'@')) continue;
+        const QSize own = QImage(pictures.filePath(name)).size();
+        name.insert(name.lastIndexOf(u'.'), QStringLiteral("@3x"));
+        EXPECT_EQ(QImage(pictures.filePath(name)).size(), own * 3) << name.toStdString();
+    }
+    EXPECT_FALSE(pictures.isEmpty());
 }
 
 TEST(MainWindow, TheHelpPageIsWrittenWholeOpenedAndTidiedAway)
