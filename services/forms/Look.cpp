@@ -55,7 +55,7 @@ void DrawShadow(QPainter& Painter, const QRect& Area)
 /// The drawing at its own size if that is the one wanted, else the large one shrunk to the pixel.
 QImage PictureOfSize(const QString& Path, const QSize& Pixels)
 {
-    const QImage own(Path);
+    QImage own(Path);
     if (own.size() == own.size().scaled(Pixels, Qt::KeepAspectRatio)) return own;
     QString large = Path;
     large.insert(Path.lastIndexOf(u'.'), QStringLiteral("@3x"));
