@@ -17,16 +17,11 @@ namespace {
 constexpr int WindowHeight = 5085; // twips, with the frame
 constexpr int ClockInterval = 400; // milliseconds
 
-std::string TitleWithVersion()
-{
-    return std::string(App::Title) + ' ' + CStr(App::Major) + '.' + CStr(App::Minor);
-}
-
 }
 
 frmMain::frmMain()
-    : Designed(forms::FormBorder::FixedSingle, {{TitleWithVersion(), 480, 312}}),
-      DateField(txtData, DateSegments), TimeField(txtTime, TimeSegments)
+    : Designed(forms::FormBorder::FixedSingle), DateField(txtData, DateSegments),
+      TimeField(txtTime, TimeSegments)
 {
     Connect();
 }
@@ -90,7 +85,7 @@ void frmMain::Form_Load()
     optDataTime[0].SetValue(true);
     imgBorder.SetHeight(107);
     imgBorder.SetTop(115);
-    SetCaption(TitleWithVersion());
+    SetCaption(std::string(App::Title) + ' ' + CStr(App::Major) + '.' + CStr(App::Minor));
     Timer1.Start(ClockInterval);
 }
 

@@ -89,8 +89,8 @@ struct Application::Parts
     }
     ~Parts() { fonts.join(); }
 
-    /// Reads the system's fonts while the display answers and the first window is made. Only to ask
-    /// for one makes the toolkit list them all.
+    /// Reads the system's fonts while the display answers. Only to ask for one makes the toolkit
+    /// list them all.
     void ListFonts()
     {
         FcInit();

@@ -53,21 +53,6 @@ Form::~Form()
     if (modalLoop) modalLoop->quit();
 }
 
-void Form::ComeUp(const EarlyWindow& Window)
-{
-    early = true;
-    SetCaption(Window.Caption);
-    setFixedSize(Window.Width, Window.Height);
-    Place();
-    show();
-}
-
-void Form::ShowControls()
-{
-    for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-        if (!child->testAttribute(Qt::WA_WState_ExplicitShowHide)) child->show();
-}
-
 bool Form::LoadOnce()
 {
     closed = false;
@@ -108,10 +93,6 @@ void Form::Show(Form* Owner)
     if (!isVisible()) {
         Place();
         show();
-        return;
-    }
-    if (std::exchange(early, false)) {
-        ShowControls();
         return;
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);

@@ -5,7 +5,6 @@
 #include <QEventLoop>
 #include <QPointer>
 #include <functional>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -16,15 +15,6 @@ class CommandButton;
 
 /// How the desktop frames a window.
 enum class FormBorder { FixedSingle, FixedDialog, FixedToolWindow };
-
-/// What a window shows of itself before it has controls: the desktop frames it while they are made.
-/// The size is the layout's, in pixels.
-struct EarlyWindow
-{
-    std::string Caption;
-    int Width;
-    int Height;
-};
 
 /// A top-level window of fixed size. Its layout comes from a .ui file (see Designed).
 class Form : public QWidget
@@ -78,9 +68,6 @@ public:
     }
 
 protected:
-    /// To be called before the controls are made; Show completes the window.
-    void ComeUp(const EarlyWindow& Window);
-
     bool event(QEvent* Event) override;
     void closeEvent(QCloseEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
@@ -95,11 +82,9 @@ private:
     bool LoadOnce();
     void TakeOwner(Form* Owner);
     void Place();
-    void ShowControls();
 
     const FormBorder border;
     bool loaded = false;
-    bool early = false;  ///< on screen without its controls
     bool closed = false; ///< since it was last told to come up
     bool topmost = false;
     int eventsUnderWay = 0;
@@ -133,10 +118,8 @@ template <class Layout>
 class Designed : public Form
 {
 protected:
-    explicit Designed(FormBorder Border, const std::optional<EarlyWindow>& Early = {})
-        : Form(Border)
+    explicit Designed(FormBorder Border) : Form(Border)
     {
-        if (Early) ComeUp(*Early);
         Layout layout;
         layout.setupUi(this);
         setFixedSize(size());

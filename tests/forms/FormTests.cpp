@@ -140,21 +140,6 @@ TEST_F(Forms, ACaretThatNobodyMovesStopsBlinking)
     EXPECT_EQ(QGuiApplication::styleHints()->cursorFlashTime(), 0);
 }
 
-TEST(EarlyForm, ShowsItsControlsOnceItIsLoadedButNotThoseToldToHide)
-{
-    struct Early : Form
-    {
-        Early() : Form(FormBorder::FixedSingle) { ComeUp({"Presto", 200, 100}); }
-    } early;
-    Label shown(&early), hidden(&early);
-    hidden.SetVisible(false);
-    bool beforeLoad = true;
-    early.Load = [&] { beforeLoad = shown.isVisible(); };
-    EXPECT_TRUE(early.Visible() && early.Caption() == "Presto" && early.size() == QSize(200, 100));
-    early.Show();
-    EXPECT_TRUE(!beforeLoad && shown.isVisible() && !hidden.isVisible());
-}
-
 TEST_F(Forms, AreDestroyedOnceTheirEventsAreServed)
 {
     auto* owned = new Workbench;
