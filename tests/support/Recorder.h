@@ -3,52 +3,59 @@
 #include "resources/Resources.h"
 #include "services/Platform.h"
 
+#include <utility>
+
 namespace vellarno::test {
 
 /// Takes the platform's place while it lives, and takes note of what would have left the process.
 class Recorder : public Platform
 {
 public:
-    /// In order, with a comma behind each: beep, message 64 TITLE: PROMPT, sound 202, start …,
-    /// open ADDRESS
-    std::string Log;
-
     std::string TempFolder;    ///< what PrivateFolder gives
     bool IsComposited = false; ///< what Compositing gives
     std::string OnlyProgram;   ///< the one that is installed; empty: every program is
+    bool RealBoxes = false;    ///< message boxes stand until they are closed
 
     Recorder() { SetPlatform(this); }
     ~Recorder() override { SetPlatform(nullptr); }
 
-    void Beep() override { Log += "beep, "; }
+    void Note(const std::string& What) { log += (log.empty() ? "" : ", ") + What; }
+    /// What was noted since the last time, in order: "beep, sound 202, message 64 Vellarno: …"
+    std::string TakeLog() { return std::exchange(log, ""); }
+    /// A beep or a message has come that nobody took.
+    bool Alarmed() const
+    {
+        return log.find("beep") != std::string::npos || log.find("message") != std::string::npos;
+    }
+
+    void Beep() override { Note("beep"); }
     void MsgBox(const std::string& Prompt, forms::MessageStyle Style,
                 const std::string& Title) override
     {
-        Log += "message " + std::to_string(Style) + ' ' + Title + ": " + Prompt + ", ";
+        Note("message " + std::to_string(Style) + ' ' + Title + ": " + Prompt);
+        if (RealBoxes) forms::MsgBox(Prompt, Style, Title);
     }
     void PlaySound(const std::string& WaveImage) override
     {
         for (const int id : {201, 202})
             if (WaveImage == forms::ReadResource(resources::Custom(id)))
-                Log += "sound " + std::to_string(id) + ", ";
+                Note("sound " + std::to_string(id));
     }
-    bool OpenAddress(const std::string& Address) override
-    {
-        Log += "open " + Address + ", ";
-        return true;
-    }
+    bool OpenAddress(const std::string& Address) override { return Note("open " + Address), true; }
     bool StartProgram(const std::string& Program,
                       const std::vector<std::string>& Arguments) override
     {
         if (!OnlyProgram.empty() && OnlyProgram != Program) return false;
-        Log += "start " + Program;
-        for (const auto& argument : Arguments) Log += ' ' + argument;
-        Log += ", ";
-        return true;
+        std::string command = "start " + Program;
+        for (const auto& argument : Arguments) command += ' ' + argument;
+        return Note(command), true;
     }
     std::string PrivateFolder() override { return TempFolder; }
     bool Compositing() override { return IsComposited; }
     bool BecomeOnlyInstance() override { return true; }
+
+private:
+    std::string log;
 };
 
 }

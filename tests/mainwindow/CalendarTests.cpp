@@ -1,0 +1,154 @@
+#include "tests/support/MainWindow.h"
+#include "tests/support/PlainCalendar.h"
+
+#include <cstdlib>
+
+using namespace vellarno::test;
+
+struct Calendar : Before<Mode::Dates>
+{
+    void OpenFor(int Entry)
+    {
+        cmdNowData[Entry].SetFocus();
+        Press(Qt::Key_Space);
+        ASSERT_TRUE(CalendarIsOpen());
+    }
+    void OpenOn(int Month, int Year)
+    {
+        txtData[1].SetText(std::to_string(Month));
+        txtData[2].SetText(std::to_string(Year));
+        OpenFor(0);
+    }
+    std::string After(Qt::Key Arrow)
+    {
+        hscDataScroll.SetFocus();
+        Press(Arrow);
+        return MonthOnShow();
+    }
+};
+
+/// A sample; all 13,212 months with VELLARNO_EVERY_MONTH in the environment.
+TEST_F(Calendar, ShowsTheDaysOfAMonthWithSundaysAndHolidaysInRed)
+{
+    const int stride = std::getenv("VELLARNO_EVERY_MONTH") ? 1 : 61;
+    for (int count = 1000 * 12; count < 2101 * 12; count += stride) {
+        const int month = count % 12 + 1, year = count / 12;
+        OpenOn(month, year);
+        const PlainDay first = *PlainDayOf(1, month, year);
+        int day = -(first.Weekday + 5) % 7; // the days before the first in its week
+        for (const auto& cell : GIORNO) {
+            SCOPED_TRACE(cell.objectName().toStdString() + MonthOnShow());
+            ASSERT_EQ(cell.Enabled(), ++day >= 1 && day <= PlainMonthLength(year, month));
+            if (!cell.Enabled()) continue;
+            const PlainDay& judged = PlainDayOf(first.Serial + day - 1);
+            const bool red = judged.Weekday == 1 || judged.IsListed();
+            ASSERT_EQ(cell.Caption(), std::to_string(day));
+            ASSERT_EQ(cell.ForeColor(), red ? forms::PureRed : forms::ButtonText);
+            ASSERT_EQ(cell.FontBold(), red);
+        }
+    }
+}
+
+struct MonthOn
+{
+    const char* Month;
+    const char* Year;
+    const char* Shown;
+    Qt::Key Arrow;
+    const char* Stepped;
+};
+
+TEST_F(Calendar, OpensOnTheMonthOfItsEntryElseOnTodaysAndStepsUpToItsLimits)
+{
+    const MonthOn rows[] = {{"03", "2021", " MAR 2021", Qt::Key_Left, " FEB 2021"},
+                            {"1", "2005", " GEN 2005", Qt::Key_Left, " DIC 2004"},
+                            {"12", "2005", " DIC 2005", Qt::Key_Right, " GEN 2006"},
+                            {"12", "2100", " DIC 2100", Qt::Key_Right, " GEN 2100"},
+                            {"1", "1900", " GEN 1900", Qt::Key_Left, " DIC 1900"},
+                            {"2", "1000", " FEB 1000", Qt::Key_Right, " MAR 1000"},
+                            {"12", "999", " NOV 2026", Qt::Key_Right, " DIC 2026"},
+                            {"", "2021", " NOV 2026", Qt::Key_Left, " OTT 2026"}};
+    for (const int entry : {0, 1})
+        for (const auto& [month, year, shown, arrow, stepped] : rows) {
+            txtData[entry * 3 + 1].SetText(month);
+            txtData[entry * 3 + 2].SetText(year);
+            OpenFor(entry);
+            EXPECT_EQ(MonthOnShow(), shown);
+            EXPECT_EQ(Focus(), "picOption");
+            EXPECT_EQ(picCalendario.pos(), QPoint(16, entry == 0 ? 51 : 101));
+            EXPECT_EQ(shpShadow.geometry(), picCalendario.geometry().translated(5, 5));
+            EXPECT_EQ(After(arrow), stepped);
+            TakeLog();
+        }
+}
+
+TEST_F(Calendar, TodayIsMarkedBehindItsNumberInItsOwnMonthAlone)
+{
+    StopClock(sys_days(2026y / 11 / 24) + 10h);
+    const auto marked = [&](const forms::Control& in) {
+        return CountPoints(Seen(in), QColor(169, 196, 239), 0);
+    };
+    OpenOn(10, 2026);
+    EXPECT_EQ(marked(picCalendario), 0) << "days that fill the grid have no mark";
+    EXPECT_EQ(After(Qt::Key_Right), " NOV 2026");
+    EXPECT_GT(marked(GIORNO[30]), 100);
+    EXPECT_LT(marked(GIORNO[29]) + marked(GIORNO[31]), 60);
+    EXPECT_GT(CountPoints(Seen(GIORNO[30]), QColor(0x1F, 0x29, 0x33)), 5) << "the number";
+    After(Qt::Key_Right);
+    EXPECT_EQ(marked(picCalendario), 0);
+}
+
+TEST_F(Calendar, APressedDayIsGreyWhileTheButtonIsDown)
+{
+    OpenOn(3, 2021);
+    const auto ground = [&] { return Seen(GIORNO[5]).pixelColor(3, 3); };
+    const QColor before = ground();
+    MouseDown(GIORNO[5]);
+    EXPECT_NE(ground(), before);
+    MouseUp(QPoint(300, 220));
+    EXPECT_EQ(ground(), before);
+    EXPECT_TRUE(CalendarIsOpen()) << "let go elsewhere, no day is taken";
+}
+
+TEST_F(Calendar, ADayPickedIsWrittenIntoItsEntryWithTheMonthOnShow)
+{
+    OpenOn(2, 2021);
+    After(Qt::Key_Right);
+    Click(GIORNO[33]);
+    EXPECT_TRUE(CalendarIsOpen()) << "the next month's days can't be picked";
+    for (int again = 0; again < 2; ++again) {
+        Click(GIORNO[5]);
+        EXPECT_EQ(Dates(), "05/03/2021 __/__/____");
+        EXPECT_TRUE(CalendarIsClosed());
+        EXPECT_EQ(Focus(), "picOption");
+        OpenFor(0); // and the day that stands there already
+    }
+    EnterDates("0503202101042021");
+    Click(cmdCalcola);
+    OpenFor(1);
+    EXPECT_FALSE(HasResults()) << "opening clears them";
+    Click(GIORNO[22]);
+    EXPECT_EQ(Dates(), "05/03/2021 19/04/2021");
+}
+
+TEST_F(Calendar, IsClosedByWhatNeedsItsPlaceAndByNothingElse)
+{
+    Choose(Mode::Moments);
+    const std::function<void()> acts[] = {
+        [&] { txtTime[2].SetFocus(); },   [&] { cmdNowTime[1].click(); },
+        [&] { txtData[4].SetText("7"); }, [&] { txtData[0].SetText("7"); },
+        [&] { Click(cmdCalcola); },       [&] { Choose(Mode::Dates); },
+        [&] { Choose(Mode::Moments); }};
+    for (const auto& act : acts) {
+        OpenFor(1);
+        act();
+        EXPECT_TRUE(CalendarIsClosed()) << &act - acts;
+    }
+    TakeLog();
+    OpenFor(1);
+    Press(Qt::Key_Escape);
+    Click(QPoint(300, 218));
+    txtData[1].SetFocus();
+    PassTick();
+    EXPECT_TRUE(CalendarIsOpen());
+}

@@ -1,0 +1,81 @@
+#include "services/Endpoints.h"
+#include "services/Trasparency.h"
+#include "services/frmAbout.h"
+#include "tests/support/Layout.h"
+#include "tests/support/Stage.h"
+
+#include <QImage>
+
+using namespace vellarno::test;
+
+TEST(Fade, GoesStepByStepUntilItIsOpaqueOrClosed)
+{
+    World world;
+    Workbench form;
+    std::vector<double> seen;
+    QTimer steps;
+    QObject::connect(&steps, &QTimer::timeout, [&] { seen.push_back(form.windowOpacity()); });
+    steps.start(0);
+    FadeInForm(form);
+    EXPECT_FALSE(form.isVisible()) << "where windows can't be seen through";
+    world.desktop.IsComposited = true;
+    FadeInForm(form);
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_TRUE(seen.front() < 0.1 && seen.size() >= 246 && form.windowOpacity() == 1);
+    QTimer::singleShot(0, &form, [&] { form.Close(); });
+    FadeInForm(form);
+    EXPECT_LT(form.windowOpacity(), 0.1);
+}
+
+struct About : testing::Test, Stage<frmAbout>
+{};
+
+TEST_F(About, TellsWhatTheProgramIsAndTodaysDate)
+{
+    EXPECT_EQ(form.Caption(), "Informazioni");
+    EXPECT_EQ(form.size(), QSize(433, 317));
+    ExpectLayout(
+        form,
+        {{"Label2_0 Label2_1", "VELLARNO"},
+         {"lblVersione", "Versione 2.0.0"},
+         {"lblCalendario_0 lblCalendario_1", "nov 26|22"},
+         {"Label1", "Programma per l'esecuzione di calcoli tra date e/o ore"},
+         {"Label4", "Programma freeware di libero utilizzo e distribuzione"},
+         {"Label3", "© 2026 gli autori di Vellarno"},
+         {"lblWarning",
+          "Disclaimer: questo programma viene fornito \"as is\" (così com'è) senza nessuna "
+          "garanzia "
+          "di funzionamento.\nL 'autore, in ogni caso, non potrà essere ritenuto responsabile per "
+          "eventuali danni derivati dall'utilizzo di questo programma."},
+         {"Label7", "Per aggiornamenti visita il sito:"},
+         {"imgsito", ":/pictures/banner.png", endpoints::WebSite},
+         {"Image4 imgMail2", ":/pictures/about-calendar.png|:/pictures/envelope.png"},
+         {"lblEmail", endpoints::Mail, "e-mail"},
+         {"cmdChiudi", "Chiudi", "Esci"}});
+    const auto& warning = Find<forms::Label>(form, "lblWarning");
+    EXPECT_LE(warning.heightForWidth(warning.width()), warning.height());
+    EXPECT_GT(CountPoints(Seen(warning), Qt::red), 100);
+}
+
+TEST(AboutBox, ClosesByItsButtonItsKeysAndItsLinks)
+{
+    const std::pair<const char*, std::string> rows[] = {
+        {"cmdChiudi", ""},
+        {"imgsito", std::string("open ") + endpoints::WebSite},
+        {"lblEmail",
+         std::string("open mailto:") + endpoints::Mail + "?Subject=Vellarno - Versione 2.0.0"}};
+    for (const auto& [clicked, log] : rows) {
+        OnTopFlag = true;
+        Stage<frmAbout> box;
+        box.Click(Find<forms::Image>(box.form, "imgMail2"));
+        EXPECT_EQ(OpenWindows(), "frmAbout*") << "the envelope is a picture";
+        box.Click(Find<QWidget>(box.form, clicked).geometry().center());
+        EXPECT_EQ(OpenWindows(), "");
+        EXPECT_EQ(box.TakeLog(), log);
+    }
+    for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
+        Stage<frmAbout> box;
+        box.Press(key);
+        EXPECT_EQ(OpenWindows(), "");
+    }
+}
