@@ -1,24 +1,28 @@
 """The running program, read and used over the desktop's accessibility bus alone."""
 
-import collections, os, pathlib, sys, unittest
+import collections
+import os
+import pathlib
+import sys
+import unittest
 
 import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
+
 sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "program"))
 import outside
 
-DATES, TIMES = (
-    dict(zip((f"{end}, {part}" for end in ("Inizio", "Fine") for part in parts.split()), typed.split()))
-    for parts, typed in (("giorno mese anno", "01 01 2005 31 12 2005"), ("ore minuti secondi", "08 15 30 10 45 40")))
-RESULTS = ["Giorno della settimana dell'inizio", "Giorno della settimana della fine", "Anni", "Mesi", "Giorni", "Ore",
-           "Minuti", "Secondi", "Totale giorni", "Totale settimane", "Totale giorni lavorativi", "Totale sabati",
-           "Totale domeniche", "Totale festivi", "Totale ore", "Totale minuti", "Totale secondi"]
-# The mode, what is typed, and the results.
-MODES = (("Data+Ora", DATES | TIMES,
-          "Sabato Sabato 00 11 30 02 30 10 364 52 303 52 52 09 8.738 524.310 31.458.610"),
-         ("Ora", TIMES, "- - - - - 02 30 10 - - - - - - 02 150 9.010"),
-         ("Data", DATES, "Sabato Sabato 00 11 30 - - - 364 52 303 52 52 09 - - -"))
+ENDS = "Inizio", "Fine"
+DATES = dict(zip((f"{end}, {part}" for end in ENDS for part in ("giorno", "mese", "anno")),
+                 ("01", "01", "2005", "31", "12", "2005")))
+TIMES = dict(zip((f"{end}, {part}" for end in ENDS for part in ("ore", "minuti", "secondi")),
+                 ("08", "15", "30", "10", "45", "40")))
+RESULTS = [
+    "Giorno della settimana dell'inizio", "Giorno della settimana della fine", "Anni", "Mesi",
+    "Giorni", "Ore", "Minuti", "Secondi", "Totale giorni", "Totale settimane",
+    "Totale giorni lavorativi", "Totale sabati", "Totale domeniche", "Totale festivi",
+    "Totale ore", "Totale minuti", "Totale secondi"]
 
 
 def wait(condition, what):
@@ -31,11 +35,13 @@ def wait(condition, what):
 
 
 def children(node):
-    return [child for i in range(node.get_child_count()) if (child := node.get_child_at_index(i))]
+    count = range(node.get_child_count())
+    return [child for i in count if (child := node.get_child_at_index(i))]
 
 
 class Control:
     """A control or a window, as it was when it was found."""
+
     def __init__(self, node):
         self.node, self.role, self.name = node, node.get_role_name(), node.get_name()
         self.states = {state.value_nick for state in node.get_state_set().get_states()}
@@ -55,7 +61,7 @@ class Control:
 
     def choose(self, name, action="Toggle", on=True):
         self.find(name).act(action)
-        wait(lambda: ("checked" in self.find(name).states) == on, name)
+        wait(lambda: ("checked" in self.find(name).states) == on, f"the choice of {name}")
 
     def fill(self, texts):
         for control in self.showing():
@@ -65,72 +71,97 @@ class Control:
 
 class AccessibilityTest(unittest.TestCase):
     def setUp(self):
-        program = outside.Program(BINARY, QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1,
-                                  DBUS_SESSION_BUS_ADDRESS=os.environ["DBUS_SESSION_BUS_ADDRESS"])
+        bus = {name: os.environ[name] for name in ("DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR")}
+        program = outside.Program(BINARY, QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1, **bus)
         self.addCleanup(program.clean)
-        self.addCleanup(lambda: self.assertEqual((program.process.terminate(), program.end()), (None, (0, ""))))
-        spoken = self.spoken = []
-        self.listener = Atspi.EventListener.new(lambda event: event.detail1 and spoken.append(Control(event.source)))
+        self.addCleanup(lambda: self.assertEqual(program.end(), (0, "", [])))
+        self.addCleanup(program.process.terminate)
+        self.spoken = []
+        self.listener = Atspi.EventListener.new(
+            lambda event: event.detail1 and self.spoken.append(Control(event.source)))
         self.listener.register("object:state-changed:showing")
         self.addCleanup(self.listener.deregister, "object:state-changed:showing")
-        self.application = wait(lambda: next((
-            child for child in children(Atspi.get_desktop(0))
-            if child.get_process_id() == program.process.pid and children(child)), None), "the program")
+        self.application = wait(lambda: next(
+            (child for child in children(Atspi.get_desktop(0))
+             if child.get_process_id() == program.process.pid and children(child)), None),
+            "the program")
         self.application.set_cache_mask(Atspi.Cache.NONE)
         self.main = self.window(outside.MAIN)
-        wait(lambda: any(control.name.startswith("Ora: ") for control in self.main.showing()), "the clock")
+        clock = lambda: any(control.name.startswith("Ora: ") for control in self.main.showing())
+        wait(clock, "the clock")
 
     def window(self, title):
-        return next((Control(child) for child in children(self.application) if child.get_name() == title), None)
+        return next((Control(child) for child in children(self.application)
+                     if child.get_name() == title), None)
 
     def open(self, name, title):
         self.main.find(name).act()
         return wait(lambda: self.window(title), title)
 
     def expect_spoken(self, text):
-        wait(lambda: [control.name for control in self.spoken if control.role == "notification"] == [text], text)
+        notes = lambda: [control.name for control in self.spoken
+                         if control.role == "notification"]
+        wait(lambda: notes() == [text], f"{text!r} to be said")
         self.spoken.clear()
 
     def named(self, window, unnamed_labels):
-        """Labels without a name are the separators, and captions that another control repeats."""
+        """Labels without a name are separators, and captions that another control repeats."""
         controls = list(window.showing())
-        silent = [c for c in controls if not c.name]
-        self.assertEqual(sum(c.role == "label" for c in silent), unnamed_labels)
-        self.assertLessEqual({c.role for c in silent}, {"label", "image", "panel", "status bar"})
-        self.assertEqual([c.role for c in silent if c.actions or "focusable" in c.states], [])
-        names = collections.Counter(c.name for c in controls if c.name)
+        silent = [control for control in controls if not control.name]
+        self.assertEqual(sum(control.role == "label" for control in silent), unnamed_labels)
+        for control in silent:
+            self.assertIn(control.role, ("label", "image", "panel", "status bar"))
+            self.assertFalse(control.actions or "focusable" in control.states, control.role)
+        names = collections.Counter(control.name for control in controls if control.name)
         self.assertEqual([name for name, times in names.items() if times > 1], [])
         return controls
 
-    def test_modes(self):
-        for mode, typed, values in MODES:
-            with self.subTest(mode):
-                self.main.choose(mode)
-                self.named(self.main, 10)
-                self.main.fill(typed)
-                self.main.find("Calcola").act()
-                results = [f"{name}: {value}" for name, value in zip(RESULTS, values.split()) if value != "-"]
-                self.expect_spoken(", ".join(results))
-                shown = [c.name for c in self.main.showing() if c.name.rpartition(": ")[0] in RESULTS]
-                self.assertCountEqual([name for name in shown if not name.endswith(": ")], results)
+    def compare(self, mode, typed, values):
+        """A calculation whose results are all said and all stand in the window."""
+        self.main.choose(mode)
+        self.named(self.main, 10)
+        self.main.fill(typed)
+        self.main.find("Calcola").act()
+        results = [f"{name}: {value}" for name, value in zip(RESULTS, values.split())
+                   if value != "-"]
+        self.expect_spoken(", ".join(results))
+        names = [control.name for control in self.main.showing()]
+        shown = [name for name in names
+                 if name.rpartition(": ")[0] in RESULTS and not name.endswith(": ")]
+        self.assertCountEqual(shown, results)
+
+    def test_a_calculation_of_each_mode_is_done_and_heard(self):
+        self.compare("Data+Ora", DATES | TIMES, "Sabato Sabato 00 11 30 02 30 10 "
+                     "364 52 303 52 52 09 8.738 524.310 31.458.610")
+        self.compare("Ora", TIMES, "- - - - - 02 30 10 - - - - - - 02 150 9.010")
+        self.compare("Data", DATES, "Sabato Sabato 00 11 30 - - - 364 52 303 52 52 09 - - -")
+
+    def test_a_total_tells_its_meaning_under_the_options(self):
+        self.main.choose("Data")
+        self.main.fill(DATES)
         self.main.choose("Calcola la data 'Fine' come giorno intero")
         days = wait(lambda: self.main.find("Totale giorni: 365"), "the whole day")
         self.assertIn("inclusa", days.node.get_description())
+
+    def test_the_pin_tells_its_state(self):
         for pinned in (True, False):
             self.main.choose("Sempre in primo piano", "Press", pinned)
 
-    def test_calendar(self):
+    def test_a_day_of_the_calendar_is_named_and_picked(self):
         self.main.choose("Data")
         self.main.fill({"Inizio, mese": "04", "Inizio, anno": "2010"})
         self.main.find("Calendario per l'inizio").act()
-        easter_monday = wait(lambda: self.main.find("lunedì 5 aprile 2010, festivo"), "the calendar")
-        self.assertEqual(sum(" aprile 2010" in control.name for control in self.named(self.main, 10)), 30)
+        find_day = lambda: self.main.find("lunedì 5 aprile 2010, festivo")
+        easter_monday = wait(find_day, "the calendar")
+        days = [c for c in self.named(self.main, 10) if " aprile 2010" in c.name]
+        self.assertEqual(len(days), 30)
         for day in (easter_monday, easter_monday):  # the second press finds the calendar closed
             day.act()
-        wait(lambda: not self.main.find(easter_monday.name), "the end of the calendar")
-        self.assertEqual(Atspi.Text.get_text(self.main.find("Inizio, giorno").node, 0, -1), "05")
+        wait(lambda: not find_day(), "the end of the calendar")
+        typed = self.main.find("Inizio, giorno").node
+        self.assertEqual(Atspi.Text.get_text(typed, 0, -1), "05")
 
-    def test_sums(self):
+    def test_sums_are_done_and_heard(self):
         sums = self.open("Calcoli in sequenza", outside.SUMS)
         for side, unnamed, unit, typed, spoken in (
                 ("Tempo", 4, "hh:mm:ss", "10 00 00 01 30 00", "Progressivo: 11:30:00"),
@@ -142,7 +173,7 @@ class AccessibilityTest(unittest.TestCase):
             sums.find("Uguale").act()
             self.expect_spoken(spoken)
 
-    def test_about(self):
+    def test_the_about_box_is_a_dialog_that_holds_the_window(self):
         box = self.open("Informazioni sul programma", outside.ABOUT)
         self.assertEqual((box.role, "modal" in box.states), ("dialog", True))
         self.named(box, 1)
@@ -153,5 +184,5 @@ class AccessibilityTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    BINARY = sys.argv.pop(1)
+    BINARY = os.path.abspath(sys.argv.pop(1))
     unittest.main()

@@ -1,32 +1,41 @@
-"""The program as others see it: its windows, what its screen shows, and how it ends."""
+"""The program as others see it: its windows, what it asks of the desktop, and how it ends."""
 
-import os, pathlib, re, shutil, subprocess, tempfile, time
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+import time
 from xml.etree import ElementTree
 
-PATIENCE = 15  # seconds, for a program under sanitizers on a busy machine
-MAIN, MESSAGE, SUMS, ABOUT = "Vellarno 2.0", "Vellarno", "Calcoli tra tempo e tra date", "Informazioni"
+SOURCES = pathlib.Path(__file__).parents[2]
+PATIENCE = 60  # seconds, for a program under sanitizers on a busy machine
+MAIN, MESSAGE = "Vellarno 2.0", "Vellarno"
+SUMS, ABOUT = "Calcoli tra tempo e tra date", "Informazioni"
 
 
 def places(widget, left=0, top=0):
-    """Each control below a widget of a layout, with its left, top, width and height in the window."""
+    """The middle of each control below a widget of a layout, in the window."""
     for child in widget.findall("widget"):
-        x, y, width, height = (int(side.text) for side in child.find("property[@name='geometry']/rect"))
-        yield child.get("name"), (left + x, top + y, width, height)
+        rect = child.find("property[@name='geometry']/rect")
+        x, y, width, height = (int(side.text) for side in rect)
+        yield child.get("name"), (left + x + width // 2, top + y + height // 2)
         yield from places(child, left + x, top + y)
 
 
-PLACES = {title: dict(places(ElementTree.parse(pathlib.Path(__file__).parents[2] / layout).find("widget")))
-          for title, layout in ((MAIN, "mainwindow/frmMain.ui"), (SUMS, "minicalc/frmMiniCalc.ui"))}
-PLACES[MAIN] |= {f"{name} icon": (x, 291, 20, 16)  # where the strip puts them
-                 for name, x in (("sums", 376), ("date", 401), ("help", 427), ("about", 453))}
+PLACES = dict(places(ElementTree.parse(SOURCES / "mainwindow/frmMain.ui").find("widget")))
+# The strip puts its icons elsewhere than the layout does.
+PLACES |= {f"{icon} icon": (x, 299) for icon, x in zip(("sums", "date", "help", "about"),
+                                                       (386, 411, 437, 463))}
 
 
 def output(*command):
-    return subprocess.run(map(str, command), capture_output=True, timeout=PATIENCE).stdout
+    return subprocess.run(map(str, command), capture_output=True, timeout=PATIENCE).stdout.decode()
 
 
 def xdo(*command):
-    return output("xdotool", *command).decode().split()
+    return output("xdotool", *command).split()
 
 
 def wait(condition, what):
@@ -39,75 +48,70 @@ def wait(condition, what):
 
 
 class Program:
-    """One run, in a home of its own unless it shares that of another. The desktop's programs that it
-    starts only note what they were asked for."""
+    """One run, in a home of its own unless it shares that of another. The desktop's programs that
+    it starts only note what they were asked for; what it plays is kept."""
 
-    def __init__(self, binary, beside=None, scale=1, fonts="<include>/etc/fonts/fonts.conf</include>", before=":",
-                 **environment):
+    FONTS = "<include>/etc/fonts/fonts.conf</include>"
+    SOUND_CARD = """pcm.!default {{ type file; file "{0}/played"; format raw; slave.pcm none }}
+        pcm.none {{ type null }}"""
+
+    def __init__(self, binary, beside=None, scale=1, fonts=FONTS, before=":", **environment):
         self.scale = scale
         self.home = beside.home if beside else pathlib.Path(tempfile.mkdtemp())
         for tool in ("xdg-open", "gnome-control-center"):
-            (self.home / tool).write_text(f'#!/bin/sh\necho "{tool} $*" >>"$HOME/asked"\n')
-            (self.home / tool).chmod(0o700)
-        (self.home / "leaks").write_text("leak:libfontconfig\nleak:libdbus-1\n")  # those libraries' own
-        (self.home / "fonts").write_text(  # a figure looks the same wherever it stands
-            f"""<fontconfig>{fonts}<match target="font"><edit name="antialias"><bool>false</bool></edit>
-            <edit name="hintstyle"><const>hintfull</const></edit></match></fontconfig>""")
+            self.write(tool, f'#!/bin/sh\necho "{tool} $*" >>"$HOME/asked"\n').chmod(0o700)
         variables = os.environ | dict.fromkeys(("HOME", "XDG_RUNTIME_DIR", "TMPDIR"), self.home) | {
             "PATH": f"{self.home}:{os.environ['PATH']}", "LC_ALL": "C.UTF-8",
-            "FONTCONFIG_FILE": self.home / "fonts", "DBUS_SESSION_BUS_ADDRESS": f"unix:path={self.home}/none",
-            "LSAN_OPTIONS": f"suppressions={self.home}/leaks:print_suppressions=0"} | environment
+            "FONTCONFIG_FILE": self.write("fonts", f"<fontconfig>{fonts}</fontconfig>"),
+            "ALSA_CONFIG_PATH": self.write("sound", self.SOUND_CARD.format(self.home)),
+            "CANBERRA_DRIVER": "alsa", "DBUS_SESSION_BUS_ADDRESS": f"unix:path={self.home}/none",
+            "ASAN_OPTIONS": f"log_path={self.home}/report", "LSAN_OPTIONS": "exitcode=0",
+        } | environment
         self.process = subprocess.Popen(
-            ["sh", "-c", f'{before}; exec "$0"', binary], cwd=self.home, text=True, stdout=subprocess.PIPE,
-            stderr=subprocess.STDOUT, env={name: str(v) for name, v in variables.items() if v is not None})
+            ["sh", "-c", f'{before}; exec "$0"', binary], cwd=self.home, text=True,
+            stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+            env={name: str(value) for name, value in variables.items() if value is not None})
+
+    def write(self, name, text):
+        (self.home / name).write_text(text)
+        return self.home / name
 
     def asked(self, tool):
         """What the desktop's program was asked for, once it was."""
         note = self.home / "asked"
-        return wait(lambda: note.exists() and re.findall(f"^{tool} (.*)\n", note.read_text(), re.M), tool)[0]
+        asked = lambda: note.exists() and re.findall(f"^{tool} (.*)\n", note.read_text(), re.M)
+        return wait(asked, tool)[0]
 
     def windows(self, title):
-        return xdo("search", "--all", "--onlyvisible", "--pid", self.process.pid, "--name", f"^{title}$")
+        return xdo("search", "--all", "--onlyvisible", "--pid", self.process.pid,
+                   "--name", f"^{title}$")
 
     def window(self, title=MAIN):
         return wait(lambda: self.windows(title), f"the window {title!r}")[0]
 
-    def click(self, *controls, title=MAIN):
+    def click(self, *controls):
         for control in controls:
-            left, top, width, height = (n * self.scale for n in PLACES[title][control])
-            xdo("mousemove", "--window", self.window(title), left + min(width, height) // 2, top + height // 2,
-                "click", 1)
+            left, top = (n * self.scale for n in PLACES[control])
+            xdo("mousemove", "--window", self.window(), left, top, "click", 1)
 
     def press(self, *keys, title=MAIN):
         xdo("windowactivate", "--sync", self.window(title))
         xdo("key", "--delay", 8, *keys)
 
-    def enter(self, field, digits, title=MAIN):
-        self.click(field, title=title)
-        self.press(*digits, title=title)
-
-    def picture(self, control, title=MAIN):
-        """The text inside a control's frame, cut close; false where there is none."""
-        left, top, width, height = (n * self.scale for n in PLACES[title][control])
-        frame = 3 * self.scale * control.startswith("lbl")
-        cut = f"{width - 2 * frame}x{height - 2 * frame}+{left + frame}+{top + frame}"
-        size, bits = output("import", "-silent", "-window", self.window(title), "-crop", cut, "+dither", "-monochrome",
-                            "-trim", "pbm:-").split(b"\n", 2)[1:]
-        return size != b"1 1" and (size, bits * (self.scale == 1))  # enlarged letters may stand between two pixels
-
-    def wait_until_alike(self, pairs, title=MAIN):
-        """A figure is read by its likeness to one that was typed."""
-        for control, entry in pairs.items():
-            wait(lambda: (seen := self.picture(control, title)) and seen == self.picture(entry, title), control)
-
     def close(self):
         """Asks as the user does until the program is gone, boxes first."""
-        wait(lambda: self.process.poll() is not None or xdo("key", "alt+F4"), "the end of the program")
+        gone = lambda: self.process.poll() is not None or xdo("key", "alt+F4")
+        wait(gone, "the end of the program")
 
     def end(self):
-        """How the program ended: its exit code and all that it wrote on the terminal."""
+        """How the program ended: exit code, what it wrote on the terminal, and what the sanitizers
+        have against it. A leak counts where our own code is seen to have asked for the memory."""
         told = self.process.communicate(timeout=PATIENCE)[0]
-        return self.process.returncode, told
+        faults = [block for report in self.home.glob("report*")
+                  for block in report.read_text().split("\n\n")
+                  if (re.search(r"#\d.*(vellarno|Main\.cpp)", block) if "leak of" in block else
+                      "ERROR" in block and "LeakSanitizer" not in block)]
+        return self.process.returncode, told, faults
 
     def clean(self):
         self.process.kill()
