@@ -7,28 +7,10 @@
 using namespace vellarno::test;
 
 /// What a clipboard or an input method may bring.
-const std::vector<std::string> HostileTexts{"",
-                                            "1",
-                                            "12",
-                                            "00",
-                                            "24",
-                                            "2101",
-                                            "32768",
-                                            "99999999999999999999",
-                                            "-1",
-                                            "1e3",
-                                            "1,5",
-                                            " 7 ",
-                                            "%s%n",
-                                            "\t",
-                                            "12\r\n34",
-                                            "٣٤",
-                                            "１２",
-                                            "²½",
-                                            "😀",
-                                            "\u202e21",
-                                            std::string(3, 0),
-                                            std::string(20000, '9')};
+constexpr const char* HostileTexts[] = {
+    "",     "1",   "12",  "00",      "24",   "2101", "32768",    "99999999999999999999",
+    "-1",   "1e3", "1,5", " 7 ",     "%s%n", "\t",   "12\r\n34", "٣٤",
+    "１２", "²½",  "😀",   "\u202e21"};
 
 constexpr Qt::Key Keys[] = {
     Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, Qt::Key_Backspace,
@@ -67,15 +49,6 @@ private:
     {
         return Of[static_cast<std::size_t>(Below(static_cast<int>(std::size(Of))))];
     }
-    static std::vector<forms::Form*> Windows()
-    {
-        std::vector<forms::Form*> open;
-        for (QWidget* each : QApplication::topLevelWidgets())
-            if (auto* one = dynamic_cast<forms::Form*>(each); one && one->isVisible())
-                open.push_back(one);
-        std::ranges::sort(open, {}, &QWidget::objectName);
-        return open;
-    }
     /// Runs while a box stands: works on behind it, and in the end closes it.
     void AnswerBox()
     {
@@ -103,13 +76,12 @@ private:
 
 void Monkey::Step()
 {
-    const auto windows = Windows();
+    const auto windows = Shown<forms::Form>();
     if (windows.empty()) return;
     forms::Form& window = *Any(windows);
     const Person person(window), before(form);
     const auto controls = window.Controls();
     const forms::Control& control = *Any(controls);
-    const std::string text = Any(HostileTexts);
     const QPoint at(Below(window.ScaleWidth()), Below(window.ScaleHeight()));
     const auto button = OneIn(2) ? Qt::RightButton : Qt::LeftButton;
     const forms::Control* const favourites[] = {
@@ -126,19 +98,13 @@ void Monkey::Step()
         {"press", [&] { person.MouseDown(control); }}, // a drag, with anything done meanwhile
         {"move", [&] { person.Hover(at); }},
         {"let go", [&] { person.MouseUp(at); }},
-        {"wheel",
-         [&] {
-             person.Wheel(control, {OneIn(3) ? 120 : 0, OneIn(2) ? 120 : -40});
-         }},
-        {"paste", [&] { person.Paste(text); }},
-        {"commit", [&] { person.Commit(text); }},
+        {"wheel", [&] { person.Wheel(control, QPoint(OneIn(3) ? 120 : 0, OneIn(2) ? 120 : -40)); }},
+        {"paste", [&] { person.Paste(Any(HostileTexts)); }},
+        {"commit", [&] { person.Commit(Any(HostileTexts)); }},
         {"favourite", [&] { before.Click(*Any(favourites)); }},
         {"total", [&] { before.Hover(lblTotali[Below(9)]); }}, // a balloon
         {"calculate", [&] { Calculate(); }},
-        {"month",
-         [&] {
-             before.Wheel(hscDataScroll, {0, OneIn(2) ? 120 : -120});
-         }},
+        {"month", [&] { before.Wheel(hscDataScroll, QPoint(0, OneIn(2) ? 120 : -120)); }},
         {"close", [&] { &window != &form || OneIn(4) ? window.Close() : Settle(); }},
         {"minimise", [&] { window.setWindowState(Qt::WindowMinimized); }},
         {"restore", [&] { window.setWindowState(Qt::WindowNoState); }},
@@ -213,7 +179,7 @@ void Monkey::Check()
     hold(txtTime, {23, 59, 59});
     Require(CalendarIsClosed() || !optDataTime[0].Value(), "no calendar in the mode of times");
     Require(Shown<forms::Balloon>().size() <= 1, "one balloon at most");
-    for (const forms::Form* window : Windows()) {
+    for (const forms::Form* window : Shown<forms::Form>()) {
         Require(!window->focusWidget() || window->focusWidget()->isEnabled(),
                 "the focus is on an enabled control or nowhere");
         if (window->objectName() != "frmMiniCalc") continue;

@@ -89,38 +89,14 @@ void Person::Commit(std::string_view Text) const
     if (subject->focusWidget()) QCoreApplication::sendEvent(subject->focusWidget(), &commit);
 }
 
-void Person::Mouse(QEvent::Type Act, Spot At, Button By, int Milliseconds) const
+void Person::Mouse(QEvent::Type Act, Spot At, Button By, int Pause) const
 {
     QWindow* handle = subject && subject->isVisible() ? subject->windowHandle() : nullptr;
     held.setFlag(By, Act == QEvent::MouseButtonPress);
-    mouseTime += Milliseconds;
+    mouseTime += Pause;
     const QPoint at = At.At;
     if (handle)
         qt_handleMouseEvent(handle, at, handle->mapToGlobal(at), held, By, Act, {}, mouseTime);
-}
-
-void Person::Press(Spot At, Button By, bool Again) const
-{
-    Mouse(QEvent::MouseButtonPress, At, By, Again ? 1 : 1000);
-}
-
-void Person::MouseUp(Spot At, Button By) const
-{
-    Mouse(QEvent::MouseButtonRelease, At, By, 1);
-    Settle();
-}
-
-void Person::DoubleClick(Spot At, Button By) const
-{
-    Click(At, By);
-    Press(At, By, true);
-    MouseUp(At, By);
-}
-
-void Person::Hover(Spot At) const
-{
-    Mouse(QEvent::MouseMove, At, Qt::NoButton, 1);
-    Settle();
 }
 
 void Person::Wheel(Spot At, QPoint Turn) const

@@ -72,11 +72,21 @@ public:
     /// A text that an input method commits to the control that has the focus.
     void Commit(std::string_view Text) const;
 
-    void MouseDown(Spot At, Button By = Qt::LeftButton) const { Press(At, By, false); }
-    void MouseUp(Spot At, Button By = Qt::LeftButton) const;
+    /// @param Pause  in milliseconds, since the mouse was last used.
+    void MouseDown(Spot At, Button By = Qt::LeftButton, int Pause = 1000) const
+    {
+        Mouse(QEvent::MouseButtonPress, At, By, Pause);
+    }
+    void MouseUp(Spot At, Button By = Qt::LeftButton) const
+    {
+        Mouse(QEvent::MouseButtonRelease, At, By), Settle();
+    }
     void Click(Spot At, Button By = Qt::LeftButton) const { MouseDown(At, By), MouseUp(At, By); }
-    void DoubleClick(Spot At, Button By = Qt::LeftButton) const;
-    void Hover(Spot At) const;
+    void DoubleClick(Spot At, Button By = Qt::LeftButton) const
+    {
+        Click(At, By), MouseDown(At, By, 1), MouseUp(At, By);
+    }
+    void Hover(Spot At) const { Mouse(QEvent::MouseMove, At, Qt::NoButton), Settle(); }
     /// In eighths of a degree: 120 is a notch up, or to the left.
     void Wheel(Spot At, QPoint Turn = {0, 120}) const;
 
@@ -86,8 +96,7 @@ public:
     QImage Seen(const forms::Control& Of) const;
 
 private:
-    void Press(Spot At, Button By, bool Again) const;
-    void Mouse(QEvent::Type Act, Spot At, Button By, int Milliseconds) const;
+    void Mouse(QEvent::Type Act, Spot At, Button By, int Pause = 1) const;
 
     QPointer<forms::Form> subject;
 };

@@ -1,7 +1,13 @@
 #include "services/forms/Application.h"
 
-#include <QString>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+/// The font library keeps its caches to the end of the process.
+extern "C" const char* __lsan_default_suppressions() // NOLINT(*-reserved-identifier)
+{
+    return "leak:libfontconfig\n";
+}
 
 int main(int ArgumentCount, char** Arguments)
 {
@@ -11,6 +17,9 @@ int main(int ArgumentCount, char** Arguments)
             // What the offscreen platform can't do (raising, opacity) is no news.
             if (!text.startsWith(QLatin1String("This plugin does not"))) next(type, from, text);
         });
+    const QTemporaryDir runtime; // closed to others, as desktops have it
+    qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const vellarno::forms::Application application(ArgumentCount, Arguments);
     return RUN_ALL_TESTS();
 }
