@@ -18,6 +18,9 @@ constexpr int BlinkingMilliseconds = 10'000;
 constexpr int DesktopFlashTime = -1;
 constexpr int SteadyFlashTime = 0;
 
+/// A click that brings the window back follows its return at once, nobody else's click does.
+constexpr int ComebackMilliseconds = 400;
+
 }
 
 TextBox::TextBox(QWidget* Parent) : ControlOf<QLineEdit>(Parent)
@@ -57,12 +60,15 @@ void TextBox::inputMethodEvent(QInputMethodEvent* Event)
     QLineEdit::inputMethodEvent(&commit);
 }
 
-// The click that brings the focus leaves the selection which GotFocus made: it sets no caret.
+// The click that brings the focus, alone or with the whole window, leaves the selection which
+// GotFocus made: it sets no caret. The window may come back before the button is told or after.
 void TextBox::focusInEvent(QFocusEvent* Event)
 {
     BlinkForAWhile();
     QLineEdit::focusInEvent(Event);
-    arriving = Event->reason() == Qt::MouseFocusReason;
+    const bool withWindow = Event->reason() == Qt::ActiveWindowFocusReason;
+    arriving = Event->reason() == Qt::MouseFocusReason || (arriving && withWindow);
+    if (withWindow) comeback.setRemainingTime(ComebackMilliseconds);
 }
 
 void TextBox::focusOutEvent(QFocusEvent* Event)
@@ -86,6 +92,8 @@ void TextBox::BlinkForAWhile()
 
 void TextBox::mousePressEvent(QMouseEvent* Event)
 {
+    arriving = arriving || !hasFocus() || !comeback.hasExpired();
+    comeback = {};
     if (!arriving || Event->button() != Qt::LeftButton) QLineEdit::mousePressEvent(Event);
 }
 

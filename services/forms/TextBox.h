@@ -3,6 +3,7 @@
 #include "services/forms/Control.h"
 
 #include <QBasicTimer>
+#include <QDeadlineTimer>
 #include <QLineEdit>
 #include <QWheelEvent>
 
@@ -44,7 +45,8 @@ private:
     void BlinkForAWhile();
 
     QBasicTimer caretRest;
-    bool arriving = false; ///< the button that brought the focus is still down
+    QDeadlineTimer comeback; ///< runs while the click may follow that brought the window back
+    bool arriving = false;   ///< the button that brought the focus is still down
 };
 
 }

@@ -71,6 +71,21 @@ TEST_F(Forms, AMenuOrAnotherWindowTakesTheKeyboardButNotTheFocus)
     EXPECT_EQ(TakeLog(), "box lost, other got") << "what was chosen meanwhile is told on return";
 }
 
+TEST_F(Forms, TheClickThatBringsTheWindowBackLeavesTheSelection)
+{
+    Workbench another;
+    box.SetText("00");
+    for (const bool clickComesFirst : {true, false}) {
+        box.Select(0, 2);
+        Person(another).Open();
+        if (!clickComesFirst) Open();
+        Click(box);
+        EXPECT_EQ(box.SelLength(), 2) << clickComesFirst;
+    }
+    Click(box);
+    EXPECT_EQ(box.SelLength(), 0) << "a later one sets the caret";
+}
+
 TEST_F(Forms, ACaretStopsBlinkingWhenNobodyTypes)
 {
     for (const auto& timer : QAbstractEventDispatcher::instance()->registeredTimers(&box))
