@@ -30,17 +30,36 @@ int StepOf(int Key)
 OptionButton::OptionButton(QWidget* Parent) : ControlOf<QRadioButton>(Parent)
 {
     if (Parent) GroupOf(*Parent).addButton(this);
+    LeadTabToSelected();
     connect(this, &QAbstractButton::toggled, this, [this](bool On) {
-        if (On && Click) Click();
+        if (!On) return;
+        LeadTabToSelected();
+        if (Click) Click();
     });
 }
 
-/// The usable option before or after this one, round and round.
+/// The toolkit would lead the Tab key to the option that had the focus last.
+void OptionButton::LeadTabToSelected()
+{
+    const QAbstractButton* selected = group() ? group()->checkedButton() : nullptr;
+    if (!selected) return;
+    for (QAbstractButton* each : group()->buttons())
+        each->setFocusPolicy(each == selected ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+void OptionButton::focusInEvent(QFocusEvent* Event)
+{
+    QRadioButton::focusInEvent(Event);
+    LeadTabToSelected();
+}
+
+/// The usable option before or after the selected one, round and round.
 OptionButton& OptionButton::Neighbour(int Step)
 {
     const auto options = group()->buttons();
     const auto count = options.size();
-    auto at = options.indexOf(this);
+    QAbstractButton* selected = group()->checkedButton();
+    auto at = options.indexOf(selected ? selected : this);
     do at = (at + Step + count) % count;
     while (!options[at]->isEnabled());
     return static_cast<OptionButton&>(*options[at]);

@@ -20,12 +20,14 @@ public:
     std::string Caption() const { return text().toStdString(); }
 
 protected:
+    void focusInEvent(QFocusEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
     /// All of the control answers the mouse, not its text alone.
     bool hitButton(const QPoint& At) const override { return rect().contains(At); }
 
 private:
     OptionButton& Neighbour(int Step);
+    void LeadTabToSelected();
 };
 
 }

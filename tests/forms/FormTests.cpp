@@ -6,6 +6,7 @@
 #include "tests/support/Stage.h"
 
 #include <QAbstractEventDispatcher>
+#include <QAccessible>
 #include <QDir>
 #include <QImage>
 #include <QInputMethodEvent>
@@ -111,6 +112,33 @@ TEST_F(Forms, ArrowKeysGoRoundTheUsableOptionsOfAContainer)
     options[1]->SetEnabled(false);
     Press(Qt::Key_Left);
     EXPECT_EQ(TakeLog(), "0");
+}
+
+TEST_F(Forms, TabLandsOnTheSelectedOptionAndArrowsCountFromIt)
+{
+    forms::OptionButton* options[3];
+    for (const int i : {0, 1, 2})
+        options[i] = &form.Add<forms::OptionButton>(std::to_string(i).c_str(), {200, 30 * i, 9, 9});
+    const std::function<void(forms::OptionButton&)> ways[] = {
+        [](auto& option) { option.SetValue(true); },
+        [](auto& option) {
+            auto* reader = QAccessible::queryAccessibleInterface(&option)->actionInterface();
+            reader->doAction(QAccessibleActionInterface::toggleAction());
+            ASSERT_TRUE(WaitUntil([&] { return option.Value(); }));
+        },
+        [this](auto& option) {
+            option.Click = [this] { box.SetFocus(); };
+            Click(option);
+        }};
+    for (const auto& select : ways) {
+        select(*options[2]);
+        other.SetFocus();
+        Press(Qt::Key_Tab);
+        EXPECT_EQ(Focus(), "2");
+        options[1]->SetFocus();
+        Press(Qt::Key_Down);
+        EXPECT_EQ(Focus(), "0");
+    }
 }
 
 TEST_F(Forms, WhatADisabledControlGetsBelongsToWhatLiesBehind)
