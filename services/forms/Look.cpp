@@ -160,6 +160,8 @@ QColor ColorOf(unsigned int Value)
 void SetUpLook()
 {
     QApplication::setStyle(new ToolkitStyle);
+    // The fields' key filter takes them, so that a menu would name keys without effect.
+    QApplication::setAttribute(Qt::AA_DontShowShortcutsInContextMenus);
     QApplication::setPalette(QPalette());
     QFont font;
     font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial"),
