@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -84,6 +85,12 @@ Balloon::Balloon(Form& Parent, const Manner& How)
     Rest();
 }
 
+/// On X11 the toolkit heeds the flag only when it changes on a window that is on screen.
+void Balloon::LetMouseThrough()
+{
+    for (const bool on : {false, true}) windowHandle()->setFlag(Qt::WindowTransparentForInput, on);
+}
+
 void Balloon::SetHeading(const std::string& Title, int Icon)
 {
     title = QString::fromStdString(Title);
@@ -110,8 +117,9 @@ bool Balloon::eventFilter(QObject* Watched, QEvent* Event)
     case QEvent::Hide:
     case QEvent::Close: Dismiss(); break;
     case QEvent::Leave:
+    case QEvent::WindowDeactivate:
         rest.stop();
-        hide();
+        if (isVisible()) Dismiss();
         break;
     case QEvent::Enter: Rest(); break;
     default: break;
@@ -141,6 +149,7 @@ void Balloon::Open()
     if (title.isEmpty() && text.isEmpty()) return;
     Arrange();
     show();
+    LetMouseThrough();
     life.start(std::max(manner.VisibleTime, 0));
 }
 

@@ -13,8 +13,8 @@ namespace vellarno::forms {
 class Form;
 
 /// A tip over a whole form, with a heading and some lines of text. It opens once the pointer has
-/// rested on the form, closes by itself, and goes when the form goes. It takes neither the focus
-/// nor the mouse.
+/// rested on the form, closes by itself, and goes for good when the pointer or the keyboard leaves
+/// the form. It takes neither the focus nor the mouse.
 class Balloon : public QWidget
 {
     Q_OBJECT
@@ -57,6 +57,7 @@ private:
     QPainterPath Outline() const;
     QBitmap Silhouette() const;
 
+    void LetMouseThrough();
     void Rest();
     void Rested();
     void Open();

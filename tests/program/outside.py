@@ -89,10 +89,13 @@ class Program:
     def window(self, title=MAIN):
         return wait(lambda: self.windows(title), f"the window {title!r}")[0]
 
+    def hover(self, control):
+        xdo("mousemove", "--window", self.window(), *(n * self.scale for n in PLACES[control]))
+
     def click(self, *controls):
         for control in controls:
-            left, top = (n * self.scale for n in PLACES[control])
-            xdo("mousemove", "--window", self.window(), left, top, "click", 1)
+            self.hover(control)
+            xdo("click", 1)
 
     def press(self, *keys, title=MAIN):
         xdo("windowactivate", "--sync", self.window(title))

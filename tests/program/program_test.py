@@ -40,6 +40,14 @@ class ProgramTest(unittest.TestCase):
             wait(lambda: above() == pinned, f"a pin that is {pinned}")
             self.assertEqual(xdo("getwindowgeometry", window), place)
 
+    def test_a_balloon_lets_the_mouse_through(self):
+        program = self.start()
+        program.hover("lblTotali_8")
+        balloon = wait(lambda: program.windows(""), "the balloon")[0]
+        program.hover("lblLabel_5")  # behind it
+        self.assertNotIn(f"window:{balloon}", xdo("getmouselocation"))
+        self.assertEqual(program.windows(""), [balloon])
+
     def test_the_desktops_date_settings_are_started(self):
         program = self.start()
         program.click("date icon")

@@ -63,16 +63,21 @@ TEST_F(Tooltip, ClosesAfterItsTimeAndStaysAway)
     EXPECT_TRUE(NoneComes());
 }
 
-TEST_F(Tooltip, GoesWithItsWindow)
+TEST_F(Tooltip, GoesWhenPointerOrKeyboardLeaveTheWindowAndStaysAway)
 {
-    const std::function<void()> ends[] = {[&] { form.showMinimized(); }, [&] { form.Close(); }};
+    Workbench another;
+    const std::function<void()> ends[] = {[&] { PutPointer(-100, -100); },
+                                          [&] { Person(another).Open(); },
+                                          [&] { form.showMinimized(); }, [&] { form.Close(); }};
     for (const auto& end : ends) {
-        form.showNormal();
-        PutPointer(100, 100);
         tip.Create(form, false);
         Standing();
         end();
         EXPECT_TRUE(Shown<forms::Balloon>().empty());
+        form.showNormal();
+        PutPointer(0, 0);
+        PutPointer(100, 100);
+        EXPECT_TRUE(NoneComes());
     }
 }
 
