@@ -163,10 +163,11 @@ void Control::TellMouse(const QMouseEvent& Event)
     if (Event.type() == QEvent::MouseMove) {
         if (MouseMove) MouseMove();
     } else if (Event.type() != QEvent::MouseButtonRelease) {
+        again = Event.type() == QEvent::MouseButtonDblClick;
         if (MouseDown) MouseDown();
     } else {
         if (MouseUp) MouseUp();
-        if (Click && ClickedByMouse() && Event.button() == Qt::LeftButton &&
+        if (Click && ClickedByMouse() && !again && Event.button() == Qt::LeftButton &&
             self.rect().contains(Event.position().toPoint()))
             Click();
     }

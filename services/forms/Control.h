@@ -119,6 +119,7 @@ private:
     int pointer = DefaultPointer;
     int icon = 0;
     bool filtered = false; ///< the key under way has passed the filter already
+    bool again = false;    ///< the button is down for the second time of a double click
     friend class Form;
 };
 

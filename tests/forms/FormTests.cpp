@@ -156,6 +156,19 @@ TEST_F(Forms, WhatADisabledControlGetsBelongsToWhatLiesBehind)
     EXPECT_EQ(TakeLog(), "image, click, form");
 }
 
+TEST_F(Forms, ADoubleClickIsOneClick)
+{
+    forms::Control* const controls[] = {&form.Add<forms::Image>("image", {200, 0, 50, 20}),
+                                        &form.Add<forms::Label>("label", {200, 30, 50, 20}),
+                                        &form.Add<forms::PictureBox>("panel", {200, 60, 50, 20})};
+    for (auto* each : controls) {
+        each->Click = Noting(each->Widget().objectName().toStdString());
+        DoubleClick(*each);
+        Click(*each);
+    }
+    EXPECT_EQ(TakeLog(), "image, image, label, label, panel, panel");
+}
+
 TEST_F(Forms, EveryPictureIsThereForFinerPixelsToo)
 {
     const QDir pictures(QStringLiteral(":/pictures"));

@@ -8,6 +8,7 @@ import socket
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 import wave
 from signal import SIGHUP, SIGINT, SIGTERM
@@ -36,6 +37,7 @@ class ProgramTest(unittest.TestCase):
         place = xdo("getwindowgeometry", window)
         above = lambda: "STATE_ABOVE" in output("xprop", "-id", window, "_NET_WM_STATE")
         for pinned in (True, False):
+            time.sleep(0.5)  # else the two were a double click, which is one
             program.click("imgOnTop")
             wait(lambda: above() == pinned, f"a pin that is {pinned}")
             self.assertEqual(xdo("getwindowgeometry", window), place)
