@@ -49,6 +49,8 @@ void MsgBox(const std::string& Prompt, MessageStyle Style, const std::string& Ti
 {
     // The window under the box may go while it stands, and takes the box with it then.
     const QPointer<QMessageBox> box = new QMessageBox(QApplication::activeWindow());
+    // One without a window of its own would stay behind a pinned one of another start.
+    box->setWindowFlag(Qt::WindowStaysOnTopHint, !box->parentWidget());
     box->setTextFormat(Qt::PlainText);
     box->setText(
         QString::fromStdString(Prompt).replace(QLatin1String("\r\n"), QLatin1String("\n")));
