@@ -24,13 +24,6 @@ namespace {
 
 constexpr int MessagePictureSide = 32;
 
-/// Platforms without a display may have the interface, but no connection behind it.
-xcb_connection_t* X11Connection()
-{
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
-}
-
 /// Where the session names no folder, or one that others may enter, the toolkit takes another and
 /// tells the terminal each time it looks.
 template <class Operation>
@@ -101,6 +94,13 @@ bool StartDetached(const std::string& Program, const std::vector<std::string>& A
     for (const auto& argument : Arguments) arguments += QString::fromStdString(argument);
     const QString path = QStandardPaths::findExecutable(QString::fromStdString(Program));
     return !path.isEmpty() && QProcess::startDetached(path, arguments);
+}
+
+// Platforms without a display may have the interface, but no connection behind it.
+xcb_connection_t* X11Connection()
+{
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 ? x11->connection() : nullptr;
 }
 
 bool OnX11()

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+struct xcb_connection_t;
+
 namespace vellarno::forms {
 
 /// Style codes of a message box.
@@ -37,6 +39,9 @@ bool Compositing();
 
 /// Whether windows stand on an X server.
 bool OnX11();
+
+/// The program's connection to that server, or nothing.
+xcb_connection_t* X11Connection();
 
 /// A folder for files of this run that only the user can enter, or the empty string.
 std::string PrivateFolder();

@@ -1,6 +1,7 @@
 #include "services/forms/Form.h"
 
 #include "services/forms/CommandButton.h"
+#include "services/forms/Frame.h"
 #include "services/forms/Look.h"
 
 #include <QApplication>
@@ -9,6 +10,8 @@
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace vellarno::forms {
 
@@ -74,10 +77,16 @@ void Form::UnloadAll()
 
 void Form::Place()
 {
-    const QRect around = border == FormBorder::FixedToolWindow && parentWidget()
-                             ? parentWidget()->geometry()
-                             : screen()->availableGeometry();
-    move(around.center() - rect().center());
+    const QWidget* owner = border == FormBorder::FixedToolWindow ? parentWidget() : nullptr;
+    const QRect room = (owner ? owner : this)->screen()->availableGeometry();
+    const QMargins frame = FrameMargins(*this);
+    QRect place = rect().marginsAdded(frame);
+    place.moveCenter((owner ? owner->frameGeometry() : room).center());
+    // Where there is not room for all of it, the title bar and the left edge are what counts.
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    place.moveTo(std::max(place.left(), room.left()), std::max(place.top(), room.top()));
+    setGeometry(place.marginsRemoved(frame));
 }
 
 void Form::TakeOwner(Form* Owner)

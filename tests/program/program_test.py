@@ -3,6 +3,7 @@
 import itertools
 import os
 import pathlib
+import re
 import shutil
 import socket
 import subprocess
@@ -48,6 +49,18 @@ class ProgramTest(unittest.TestCase):
         message = self.start(beside=first).window(MESSAGE)
         above = lambda: output("xprop", "-root", "_NET_CLIENT_LIST_STACKING").split()[-1]
         wait(lambda: int(above(), 16) == int(message), "the message above the window")
+
+    def test_a_window_is_centred_with_its_frame_and_stays_in_reach(self):
+        for scale in (1, 4):  # at 4 the screen is smaller than the window
+            window = self.start(QT_SCALE_FACTOR=scale).window()
+            with self.subTest(scale=scale):
+                told = output("xwininfo", "-id", window)
+                place = lambda name: int(re.search(rf"{name}:\s+(-?\d+)", told)[1])
+                for side, size, screen in (("X", "Width", 1280), ("Y", "Height", 900)):
+                    edge = place(f"Relative upper-left {side}")
+                    room = screen - edge - place(size) - 1  # the far edge is 1 wide
+                    self.assertAlmostEqual(place(f"Absolute upper-left {side}") - edge,
+                                           max(0, room // 2), delta=1)
 
     def test_a_balloon_lets_the_mouse_through(self):
         program = self.start()

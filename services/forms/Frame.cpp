@@ -1,0 +1,88 @@
+#include "services/forms/Frame.h"
+
+#include "services/forms/Desktop.h"
+
+#include <QDeadlineTimer>
+#include <QThread>
+#include <QWidget>
+#include <xcb/xcb.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+#include <vector>
+
+namespace vellarno::forms {
+
+namespace {
+
+/// A window manager that hangs must not keep the window off the screen.
+constexpr int PatienceMilliseconds = 100;
+
+xcb_atom_t Atom(xcb_connection_t* Display, std::string_view Name)
+{
+    const auto length = static_cast<std::uint16_t>(Name.size());
+    auto* reply =
+        xcb_intern_atom_reply(Display, xcb_intern_atom(Display, 0, length, Name.data()), nullptr);
+    const xcb_atom_t atom = reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+    std::free(reply);
+    return atom;
+}
+
+std::vector<std::uint32_t> Property(xcb_connection_t* Display, xcb_window_t Window, xcb_atom_t Name)
+{
+    constexpr std::uint32_t MostValues = 1024;
+    auto* reply = xcb_get_property_reply(
+        Display,
+        xcb_get_property(Display, 0, Window, Name, XCB_GET_PROPERTY_TYPE_ANY, 0, MostValues),
+        nullptr);
+    std::vector<std::uint32_t> values;
+    if (reply && reply->format == 32) {
+        const auto* first = static_cast<const std::uint32_t*>(xcb_get_property_value(reply));
+        values.assign(first, first + reply->value_len);
+    }
+    std::free(reply);
+    return values;
+}
+
+/// The request of the Extended Window Manager Hints for windows that are not shown yet.
+void RequestFrameExtents(xcb_connection_t* Display, xcb_window_t Root, xcb_window_t Window,
+                         xcb_atom_t Request)
+{
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = Window;
+    event.type = Request;
+    xcb_send_event(Display, 0, Root,
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char*>(&event));
+}
+
+}
+
+QMargins FrameMargins(QWidget& Window)
+{
+    xcb_connection_t* display = X11Connection();
+    if (!display) return {};
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
+    const xcb_atom_t request = Atom(display, "_NET_REQUEST_FRAME_EXTENTS");
+    const auto served = Property(display, root, Atom(display, "_NET_SUPPORTED"));
+    if (std::ranges::find(served, request) == served.end()) return {};
+
+    const auto window = static_cast<xcb_window_t>(Window.winId());
+    RequestFrameExtents(display, root, window, request);
+    const xcb_atom_t answer = Atom(display, "_NET_FRAME_EXTENTS");
+    std::vector<std::uint32_t> extents;
+    for (const QDeadlineTimer patience(PatienceMilliseconds);
+         extents.size() != 4 && !patience.hasExpired(); QThread::msleep(1))
+        extents = Property(display, window, answer);
+    if (extents.size() != 4) return {};
+    const auto pixels = [&](std::size_t side) {
+        return qRound(extents[side] / Window.devicePixelRatioF());
+    };
+    return {pixels(0), pixels(2), pixels(1), pixels(3)}; // told as left, right, top, bottom
+}
+
+}
