@@ -71,6 +71,7 @@ void frmMain::Form_Load()
     SetHeight(WindowHeight);
     InitStatusStrip();
     SetHandCursor(*this);
+    for (auto& caption : lblChekBox) caption.FitWidth();
     imgOnTop.SetMousePointer(forms::CustomPointer);
     imgOnTop.SetMouseIcon(resources::HandCursor);
     imgOnTop.SetPicture(resources::Icon(201));

@@ -24,6 +24,8 @@ public:
 
     std::string Caption() const { return text().toStdString(); }
     void SetCaption(const std::string& Text);
+    /// Makes the label as wide as its caption, so that no click beside the caption is its own.
+    void FitWidth() { SetWidth(sizeHint().width()); }
     unsigned int ForeColor() const { return foreColor; }
     void SetForeColor(unsigned int Value);
     /// A transparent background lets what lies behind show; an opaque one is BackColor.

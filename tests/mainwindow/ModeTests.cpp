@@ -151,6 +151,7 @@ TEST_F(Modes, TheCaptionOfABoxWorksTheBox)
         EXPECT_EQ(Focus(), "chkDayInt");
         Click(lblChekBox[1]);
         EXPECT_EQ(Focus(), "chkWorkSat");
+        for (const auto& caption : lblChekBox) Click(QPoint(440, caption.geometry().center().y()));
         EXPECT_TRUE(chkDayInt.Value() == value && chkWorkSat.Value() == value);
     }
 }
