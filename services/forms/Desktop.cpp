@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPointer>
@@ -52,6 +53,9 @@ void MsgBox(const std::string& Prompt, MessageStyle Style, const std::string& Ti
                                                        : QStringLiteral(":/pictures/info.png"),
                                      MessagePictureSide, box->devicePixelRatioF()));
     box->setStandardButtons(QMessageBox::Ok);
+    // The toolkit would wrap whatever is wider than half of the screen.
+    auto* text = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    text->setMinimumWidth(text->sizeHint().width());
     box->exec();
     delete box;
 }

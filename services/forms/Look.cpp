@@ -74,6 +74,12 @@ public:
         Colors = ToolkitPalette();
         Colors.setResolveMask(0);
     }
+    int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
+                  QStyleHintReturn* Return) const override
+    {
+        if (Hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0; // a message's OK is a plain one
+        return QProxyStyle::styleHint(Hint, Option, Widget, Return);
+    }
 };
 
 }

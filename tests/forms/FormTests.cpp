@@ -183,15 +183,19 @@ TEST_F(Forms, EveryPictureIsThereForFinerPixelsToo)
 TEST_F(Forms, AMessageBoxShowsItsTitleTextAndIconAndWaitsForOk)
 {
     std::vector<QImage> icons;
+    const auto longLine = QStringLiteral("pagina ").repeated(15) + u'.'; // half a screen and more
     for (const auto style : {forms::Information, forms::Critical}) {
         Soon([&] {
             auto* message = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_TRUE(message);
-            EXPECT_EQ(message->windowTitle() + message->text(), "Titoloriga\naltra riga");
+            EXPECT_EQ(message->windowTitle() + message->text(),
+                      QStringLiteral("Titolo") + longLine + "\naltra riga");
+            const auto& text = *message->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+            EXPECT_GE(text.width(), text.fontMetrics().horizontalAdvance(longLine));
             icons.push_back(message->iconPixmap().toImage());
             message->buttons().at(0)->click();
         });
-        forms::MsgBox("riga\r\naltra riga", style, "Titolo");
+        forms::MsgBox(longLine.toStdString() + "\r\naltra riga", style, "Titolo");
     }
     ASSERT_EQ(icons.size(), 2U);
     const QColor red(0xC0, 0x30, 0x30), blue(0x2F, 0x5F, 0x9E);

@@ -49,6 +49,11 @@ class ProgramTest(unittest.TestCase):
         message = self.start(beside=first).window(MESSAGE)
         above = lambda: output("xprop", "-root", "_NET_CLIENT_LIST_STACKING").split()[-1]
         wait(lambda: int(above(), 16) == int(message), "the message above the window")
+        colors = lambda: [tuple(map(int, color)) for color in re.findall(
+            r"\((\d+),(\d+),(\d+)", output("import", "-window", message, "-depth", 8,
+                                             "-format", "%c", "histogram:info:-"))]
+        wait(lambda: any(b > r + 80 for r, g, b in colors()), "its blue picture")
+        self.assertFalse(any(g > max(r, b) + 5 for r, g, b in colors()), "a green one beside OK")
 
     def test_a_window_is_centred_with_its_frame_and_stays_in_reach(self):
         for scale in (1, 4):  # at 4 the screen is smaller than the window
