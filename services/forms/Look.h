@@ -38,7 +38,7 @@ inline constexpr QColor Text{0x1F, 0x29, 0x33};
 inline constexpr QColor DisabledText{0x8B, 0x94, 0x9E};
 inline constexpr QColor Accent{0x2F, 0x5F, 0x9E};
 inline constexpr QColor Field{0xFF, 0xFF, 0xFF};
-inline constexpr QColor FieldEdge{0x9A, 0xA7, 0xB4};
+inline constexpr QColor FieldEdge{0x71, 0x7E, 0x8B};
 inline constexpr QColor DisabledField{0xEC, 0xEC, 0xEC};
 inline constexpr QColor DisabledFieldEdge{0xC6, 0xCC, 0xD2};
 inline constexpr QColor Today{169, 196, 239};
