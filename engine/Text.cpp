@@ -15,8 +15,9 @@ namespace {
 constexpr std::array<std::string_view, 7> WeekdayNames{
     "domenica", "lunedì", "martedì", "mercoledì", "giovedì", "venerdì", "sabato"};
 
-constexpr std::array<std::string_view, 12> ShortMonthNames{
-    "gen", "feb", "mar", "apr", "mag", "giu", "lug", "ago", "set", "ott", "nov", "dic"};
+constexpr std::array<std::string_view, 12> MonthNames{
+    "gennaio", "febbraio", "marzo",     "aprile",  "maggio",   "giugno",
+    "luglio",  "agosto",   "settembre", "ottobre", "novembre", "dicembre"};
 
 template <typename T>
 std::optional<T> ParseDigits(std::string_view Text)
@@ -73,16 +74,18 @@ std::string PrintWeekday(double x)
     return std::string(WeekdayNames.at(static_cast<std::size_t>(Weekday(x, 1) - 1)));
 }
 
-std::string PrintShortMonth(double x)
+std::string PrintMonth(double x)
 {
-    return std::string(ShortMonthNames.at(static_cast<std::size_t>(Month(x) - 1)));
+    return std::string(MonthNames.at(static_cast<std::size_t>(Month(x) - 1)));
 }
 
 /// A longer name stands before the shorter one that it begins with.
-constexpr std::array<DateField, 8> DateFields{{
+constexpr std::array<DateField, 10> DateFields{{
     {"dddd", PrintWeekday},
     {"dd", [](double x) { return TwoDigits(Day(x)); }},
-    {"mmm", PrintShortMonth},
+    {"d", [](double x) { return CStr(Day(x)); }},
+    {"mmmm", PrintMonth},
+    {"mmm", [](double x) { return PrintMonth(x).substr(0, 3); }},
     {"mm", [](double x) { return TwoDigits(Minute(x)); }},
     {"yyyy", [](double x) { return Digits(Year(x), 4, false); }},
     {"yy", [](double x) { return TwoDigits(Year(x) % 100); }},

@@ -34,7 +34,8 @@ std::optional<double> CDate(std::string_view Text);
 /// Value by a pattern, with Italian names and separators.
 /// A pattern of zeros prints the nearest whole number with at least as many digits, and with a
 /// point between groups of three if the pattern holds a comma. Any other pattern prints a date
-/// value: dddd (lunedì), dd, mmm (gen), yyyy, yy, hh, mm (minutes), ss, other characters literally.
+/// value: dddd (lunedì), dd, d, mmmm (gennaio), mmm (gen), yyyy, yy, hh, mm (minutes), ss, other
+/// characters literally.
 std::string Format(double Value, std::string_view Pattern);
 
 /// A numeric text is printed as its number, any other text comes back unchanged.

@@ -10,6 +10,9 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QTimer>
+
+#include <utility>
 
 namespace vellarno::forms {
 
@@ -97,11 +100,27 @@ private:
 };
 
 /// Screen readers speak a notification that begins to show, wherever the focus is. This one has
-/// nothing for the eye.
+/// nothing for the eye. What is told in one go makes one notification.
 class Announcer : public QWidget
 {
 public:
     using QWidget::QWidget;
+
+    void Add(const QString& Text)
+    {
+        if (waiting.isEmpty()) QTimer::singleShot(0, this, [this] { Speak(); });
+        waiting += Text;
+    }
+
+private:
+    void Speak()
+    {
+        setAccessibleName(std::exchange(waiting, {}).join(QLatin1String(", ")));
+        QAccessibleEvent shown(this, QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&shown);
+    }
+
+    QStringList waiting;
 };
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* Object)
@@ -125,16 +144,14 @@ void SetUpAccessibility()
     QAccessible::installFactory(MakeInterface);
 }
 
-void Announce(Form& Window, const std::string& Text)
+void Announce(const QWidget& From, const std::string& Text)
 {
     if (!QAccessible::isActive()) return;
-    QWidget* announcer = nullptr;
-    for (QObject* child : Window.children())
+    Announcer* announcer = nullptr;
+    for (QObject* child : From.window()->children())
         if (auto* found = dynamic_cast<Announcer*>(child)) announcer = found;
-    if (!announcer) announcer = new Announcer(&Window);
-    announcer->setAccessibleName(QString::fromStdString(Text));
-    QAccessibleEvent shown(announcer, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&shown);
+    if (!announcer) announcer = new Announcer(From.window()); // the window owns it
+    announcer->Add(QString::fromStdString(Text));
 }
 
 }

@@ -1,10 +1,13 @@
 #include "services/forms/Control.h"
 
 #include "services/forms/Form.h"
+#include "services/forms/Look.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPointer>
 
 #include <utility>
@@ -35,6 +38,22 @@ short CharacterCode(const QKeyEvent& Event)
     if (control && Event.key() >= Qt::Key_A && Event.key() <= Qt::Key_Z)
         return static_cast<short>(Event.key() - Qt::Key_A + 1);
     return Event.text().isEmpty() ? short{0} : static_cast<short>(Event.text().front().unicode());
+}
+
+/// A key without Shift and the like.
+Key KeyOf(const QKeyEvent& Event)
+{
+    static constexpr std::pair<int, Key> keys[] = {
+        {Qt::Key_Left, Key::Left},     {Qt::Key_Right, Key::Right},
+        {Qt::Key_Up, Key::Up},         {Qt::Key_Down, Key::Down},
+        {Qt::Key_PageUp, Key::PageUp}, {Qt::Key_PageDown, Key::PageDown},
+        {Qt::Key_Home, Key::Home},     {Qt::Key_End, Key::End},
+        {Qt::Key_Return, Key::Enter},  {Qt::Key_Enter, Key::Enter},
+        {Qt::Key_Space, Key::Space}};
+    const bool alone = (Event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    for (const auto& [code, key] : keys)
+        if (alone && code == Event.key()) return key;
+    return Key::Other;
 }
 
 }
@@ -91,6 +110,22 @@ void Control::UpdatePointer()
         self.unsetCursor();
 }
 
+void Control::SetMenu(const std::vector<MenuEntry>& Entries)
+{
+    for (const MenuEntry& entry : Entries) {
+        auto* action = new QAction(QString::fromStdString(entry.Text), &self); // the widget owns it
+        QObject::connect(action, &QAction::triggered, &self, entry.Click);
+        self.addAction(action);
+    }
+    if (ClickedByMouse()) self.setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void Control::DrawFocusMark(QPainter& Painter) const
+{
+    if (self.hasFocus() && self.focusPolicy() == Qt::TabFocus)
+        DrawLook(Painter, self.rect(), Look::Mark, true, true);
+}
+
 Control::KeyFate Control::FilterCharacter(short& KeyAscii)
 {
     const short original = KeyAscii;
@@ -115,6 +150,8 @@ bool Control::BeforeEvent(QEvent& Event)
     auto& key = static_cast<QKeyEvent&>(Event);
     const QPointer<QWidget> alive = &self;
     if (Form* form = ParentForm(); form && form->PressDialogButton(key)) return true;
+    const Key pressed = KeyOf(key);
+    if (KeyDown && KeyDown(pressed)) return true;
     short code = 0;
     const KeyFate fate = FilterKey(key, code);
     if (fate == KeyFate::Swallowed || !alive) {
@@ -128,7 +165,10 @@ bool Control::BeforeEvent(QEvent& Event)
         filtered = false;
         return true;
     }
-    return false;
+    const bool presses = pressed == Key::Space || pressed == Key::Enter;
+    if (!presses || !ClickedByMouse() || !Click) return false;
+    if (!key.isAutoRepeat()) Click();
+    return true;
 }
 
 bool Control::AfterEvent(QEvent& Event)

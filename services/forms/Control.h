@@ -5,9 +5,11 @@
 #include <QWidget>
 #include <functional>
 #include <string>
+#include <vector>
 
 class QKeyEvent;
 class QMouseEvent;
+class QPainter;
 
 namespace vellarno::forms {
 
@@ -21,6 +23,16 @@ enum MousePointer {
     CustomPointer = 99
 };
 
+/// Keys without a character, and the two that press a control.
+enum class Key { Other, Left, Right, Up, Down, PageUp, PageDown, Home, End, Enter, Space };
+
+/// An entry of the menu that a right click on a control opens.
+struct MenuEntry
+{
+    std::string Text;
+    std::function<void()> Click;
+};
+
 /// What every control has, whatever widget does its work. Measures are pixels of the container;
 /// text is UTF-8. Events are plain callables: an empty one is an event that nobody handles.
 class Control
@@ -32,6 +44,8 @@ public:
     std::function<void()> MouseDown;
     std::function<void()> MouseUp;
     std::function<void()> Click;
+    /// Comes before KeyPress, for a key alone. True: the key goes no further.
+    std::function<bool(Key Pressed)> KeyDown;
     /// The handler may replace KeyAscii: 1 inserts nothing, 0 drops the key.
     std::function<void(short& KeyAscii)> KeyPress;
 
@@ -89,6 +103,9 @@ public:
     int MouseIcon() const { return icon; }
     void SetMouseIcon(int ResourceId);
 
+    /// A menu of its own; an entry field has these entries after those of its editing.
+    void SetMenu(const std::vector<MenuEntry>& Entries);
+
     /// The widget behind the control, for the runtime and for tests that send it real events.
     QWidget& Widget() const { return self; }
 
@@ -105,8 +122,11 @@ protected:
     /// Before and after the widget's own handling. True: the event goes no further.
     bool BeforeEvent(QEvent& Event);
     bool AfterEvent(QEvent& Event);
+    /// Around a control that only the Tab key reaches, while it has the focus.
+    void DrawFocusMark(QPainter& Painter) const;
 
-    /// Labels and pictures are clicked by the mouse; buttons raise Click in their own way.
+    /// Labels and pictures are clicked by the mouse, and where the Tab key reaches them by Space
+    /// and Enter; buttons raise Click in their own way.
     virtual bool ClickedByMouse() const { return false; }
 
     Form* ParentForm() const;

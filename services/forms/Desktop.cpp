@@ -3,6 +3,7 @@
 #include "services/forms/Look.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -76,6 +77,11 @@ void SendKeys(const std::string& Keys)
     if (Keys != "{TAB}" || !target) return;
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
         QApplication::postEvent(target, new QKeyEvent(type, Qt::Key_Tab, Qt::NoModifier));
+}
+
+void SetClipboardText(const std::string& Text)
+{
+    QGuiApplication::clipboard()->setText(QString::fromStdString(Text));
 }
 
 void SetScreenPointer(bool Hourglass)

@@ -24,6 +24,9 @@ void DoEvents();
 /// @param Keys  "{TAB}"; anything else is ignored.
 void SendKeys(const std::string& Keys);
 
+/// Puts a text on the clipboard.
+void SetClipboardText(const std::string& Text);
+
 /// The pointer over all windows of the program: the hourglass, or their own pointers again.
 void SetScreenPointer(bool Hourglass);
 

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QShortcut>
 #include <QWindow>
 
 #include <algorithm>
@@ -158,6 +159,13 @@ std::vector<Control*> Form::Controls() const
         if (control && child->window() == this) controls.push_back(control); // not an owned form's
     }
     return controls;
+}
+
+void Form::OnKey(const char* Keys, std::function<void()> Handler)
+{
+    auto* shortcut = new QShortcut(QKeySequence(QLatin1String(Keys)), this); // owned by the form
+    shortcut->setAutoRepeat(false);
+    connect(shortcut, &QShortcut::activated, this, std::move(Handler));
 }
 
 bool Form::PressDialogButton(const QKeyEvent& Event)

@@ -56,6 +56,9 @@ public:
     /// All controls of the form, in no particular order.
     std::vector<Control*> Controls() const;
 
+    /// A key that acts wherever in this window the focus is, and no character of it.
+    /// @param Keys  like "F1" or "Ctrl+Shift+C".
+    void OnKey(const char* Keys, std::function<void()> Handler);
     void SetDefaultButton(CommandButton& Button) { defaultButton = &Button; }
     void SetCancelButton(CommandButton& Button) { cancelButton = &Button; }
 

@@ -31,6 +31,7 @@ void Image::paintEvent(QPaintEvent*)
     QPainter painter(this);
     DrawLook(painter, rect(), look, isEnabled(), false);
     if (!picture.isEmpty()) DrawPicture(painter, rect(), picture, isEnabled());
+    DrawFocusMark(painter);
 }
 
 }

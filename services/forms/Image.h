@@ -8,7 +8,7 @@
 
 namespace vellarno::forms {
 
-/// A picture of the program's resources, or a drawn ground. It never takes the focus.
+/// A picture of the program's resources, or a drawn ground.
 class Image : public ControlOf<QWidget>
 {
     Q_OBJECT

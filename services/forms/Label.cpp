@@ -72,6 +72,7 @@ void Label::paintEvent(QPaintEvent* Event)
         if (backOpaque) painter.fillRect(rect(), ColorOf(backColor));
         const auto* explained = legend.isEmpty() ? this : parentWidget()->findChild<Label*>(legend);
         DrawLook(painter, rect(), look, explained && explained->isEnabled(), false);
+        DrawFocusMark(painter);
     }
     QLabel::paintEvent(Event);
 }

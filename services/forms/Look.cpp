@@ -31,6 +31,7 @@ Backdrop GroundOf(const QRect& Area, Look Kind, bool Enabled, bool Focused)
                        : Backdrop{DisabledField, DisabledFieldEdge, FieldRadius};
     if (Kind == Look::Panel) return {Panel, Focused ? Accent : PanelEdge, PanelRadius};
     if (Kind == Look::Today) return {Today, Qt::transparent, FieldRadius};
+    if (Kind == Look::Mark) return {Qt::NoBrush, Accent, FieldRadius};
     QLinearGradient gradient(Area.topLeft(), Area.bottomLeft());
     if (Kind == Look::Sheen) {
         gradient.setColorAt(0, QColor(255, 255, 255, 160));

@@ -22,6 +22,7 @@ enum class Look {
     Band,  ///< gradient strip
     Sheen, ///< light from above, over a band
     Today, ///< mark of today in the calendar
+    Mark,  ///< ring around what the keyboard acts on
     Shadow ///< soft shadow of a sheet that lies above
 };
 Q_ENUM_NS(Look)

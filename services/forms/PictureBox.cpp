@@ -46,6 +46,7 @@ void PictureBox::paintEvent(QPaintEvent*)
     painter.setPen(QWidget::palette().color(QPalette::WindowText));
     for (const auto& line : printed)
         painter.drawText(line.X, line.Y + painter.fontMetrics().ascent(), line.Text);
+    DrawFocusMark(painter);
 }
 
 }

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QStyleHints>
 #include <QTimerEvent>
@@ -88,6 +89,15 @@ void TextBox::BlinkForAWhile()
 {
     QGuiApplication::styleHints()->setCursorFlashTime(DesktopFlashTime);
     caretRest.start(BlinkingMilliseconds, this);
+}
+
+void TextBox::contextMenuEvent(QContextMenuEvent* Event)
+{
+    QMenu* menu = createStandardContextMenu();
+    if (!actions().isEmpty()) menu->addSeparator();
+    menu->addActions(actions());
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(Event->globalPos());
 }
 
 void TextBox::mousePressEvent(QMouseEvent* Event)
