@@ -53,7 +53,9 @@ void frmMain::Connect()
 
     cmdNowData.Connect(&CommandButton::Click, this, &frmMain::cmdNowData_Click);
     hscDataScroll.Change = [this] { hscDataScroll_Change(); };
-    hscDataScroll.KeyPress = [this](short& KeyAscii) { hscDataScroll_KeyPress(KeyAscii); };
+    picOption.KeyDown = [this](Key Pressed) { return picOption_KeyDown(Pressed); };
+    picOption.GotFocus = [this] { shpMarker.SetVisible(true); };
+    picOption.LostFocus = [this] { shpMarker.SetVisible(false); };
     txtCalMeseAnno.GotFocus = [this] { txtCalMeseAnno_GotFocus(); };
     GIORNO.Connect(&Label::MouseDown, this, &frmMain::GIORNO_MouseDown);
     GIORNO.Connect(&Label::MouseUp, this, &frmMain::GIORNO_MouseUp);
@@ -64,6 +66,8 @@ void frmMain::Connect()
     lblTotali.Connect(&Label::MouseMove, this, &frmMain::lblTotali_MouseMove);
     picToolBarra.Connect(&PictureBox::Click, this, &frmMain::picToolBarra_Click);
     imgOnTop.Click = [this] { imgOnTop_Click(); };
+    OnKey("F1", [this] { picToolBarra_Click(Help); });
+    OnKey("Ctrl+Shift+C", [this] { CopyResults(); });
 }
 
 void frmMain::Form_Load()
@@ -81,6 +85,7 @@ void frmMain::Form_Load()
     BalloonTip->SetIcon(1);
     BalloonTip->SetDelayTime(20);
     DescribeTotals();
+    OfferCopies();
     ShowCalendar(-1);
     imgGradiente.Move(0, -1, picOption.Width() - 1, picOption.Height() - 1);
     optDataTime[0].SetValue(true);

@@ -20,6 +20,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace Ui {
 class frmMain;
@@ -70,6 +71,7 @@ private:
     forms::ScrollBar& hscDataScroll = Get<forms::ScrollBar>("hscDataScroll");
     forms::TextBox& txtCalMeseAnno = Get<forms::TextBox>("txtCalMeseAnno");
     forms::Image& shpOggi = Get<forms::Image>("shpOggi");
+    forms::Image& shpMarker = Get<forms::Image>("shpMarker");
     forms::ControlArray<forms::Label> GIORNO{*this, "GIORNO"};
 
     // The status strip
@@ -82,7 +84,7 @@ private:
     int CalMese = 0;      ///< month on show in the calendar, 1 to 12
     int CalAnno = 0;      ///< year on show in the calendar
     int CalCampo = 0;     ///< the entry that the calendar serves: 0 the start, 1 the end
-    int CalGiorno = 0;    ///< day that is being typed over the calendar, 0 none
+    int CalGiorno = 0;    ///< day of the month on show that the keyboard acts on
     int UltimoGiorno = 0; ///< day of the month of the strip's last full update
     std::array<bool, 9> BalloonShown{};
     std::optional<StatusBar> StatusStrip;
@@ -108,12 +110,22 @@ private:
     bool HasAllFields(int Mode) const;
     void ShowIncompleteData();
     bool ValidateDates();
-    void ClearResults();
-    void AnnounceResults();
     void Form_KeyPress(short& KeyAscii);
     void SetDati(int Index, const std::string& Caption) override;
     void SetTotali(int Index, const std::string& Caption) override;
     void SetHourglass(bool Shown) override;
+
+    // Results
+    struct Figure
+    {
+        const forms::Label& Label;
+        std::string Caption;
+    };
+    std::vector<Figure> Figures() const;
+    void ClearResults();
+    void AnnounceResults();
+    void OfferCopies();
+    void CopyResults();
 
     // Modes
     void optDataTime_Click(int Index);
@@ -136,10 +148,15 @@ private:
     void cmdNowData_Click(int Index);
     void ShowCalendar(int Index);
     void HideCalendar();
+    void CloseCalendar();
     void hscDataScroll_Change();
-    void hscDataScroll_KeyPress(short& KeyAscii);
-    int TypedCell() const;
-    void MarkCell(int Index);
+    bool picOption_KeyDown(forms::Key Pressed);
+    void MoveMark(double To);
+    void PlaceMark();
+    const forms::Label& MarkedCell() const;
+    int FirstDay() const;
+    int LastDay() const;
+    void AnnounceStep();
     void txtCalMeseAnno_GotFocus();
     void FillCalendar(int Mese, int Anno);
     void FillDay(forms::Label& Cell, int Serial, int Mese, int MondayNumber);
@@ -160,10 +177,14 @@ private:
     void CloseBalloons();
 
     // Toolbar, pin and help
+    enum ToolIcon { DateSettings, About, Help, SequentialSums };
     void picToolBarra_Click(int Index);
     void imgOnTop_Click();
     void ShowHelp();
 };
+
+/// The two entries, as they are read aloud.
+inline constexpr const char* EndNames[] = {"Inizio", "Fine"};
 
 /// True exactly for the months 1 to 12 of the years 1000 to 2100.
 bool IsCorrect(int Mese, int Anno);

@@ -5,9 +5,9 @@
 #include "engine/Holidays.h"
 #include "engine/Text.h"
 #include "resources/Resources.h"
+#include "services/forms/Accessibility.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 
 namespace vellarno {
@@ -22,18 +22,10 @@ constexpr int ShadowOffset = 5;
 constexpr int YearBefore = 0;
 constexpr int YearAfter = 13;
 
-constexpr std::array MonthNames{"gennaio",   "febbraio", "marzo",    "aprile",
-                                "maggio",    "giugno",   "luglio",   "agosto",
-                                "settembre", "ottobre",  "novembre", "dicembre"};
-
 /// The day in full, as it is read aloud: lunedì 3 gennaio 2005.
 std::string SpokenDay(int Serial, bool Holiday)
 {
-    std::string weekday = WeekdayText(Weekday(Serial, 1));
-    weekday[0] = static_cast<char>(std::tolower(weekday[0]));
-    return weekday + ' ' + CStr(Day(Serial)) + ' ' +
-           MonthNames[static_cast<std::size_t>(Month(Serial) - 1)] + ' ' + CStr(Year(Serial)) +
-           (Holiday ? ", festivo" : "");
+    return Format(Serial, "dddd d mmmm yyyy") + (Holiday ? ", festivo" : "");
 }
 
 std::string InCapitals(std::string Text)
@@ -59,6 +51,8 @@ void frmMain::cmdNowData_Click(int Index)
     CalCampo = Index;
     ClearResults();
     picOption.SetFocus();
+    forms::Announce(*this,
+                    cmdNowData[Index].AccessibleName() + ": " + MarkedCell().AccessibleName());
 }
 
 /// Prepares the panel for an entry, or for today's month with Index -1; it stays hidden.
@@ -75,7 +69,9 @@ void frmMain::ShowCalendar(int Index)
                    picCalendario.Width(), picCalendario.Height());
     CalMese = Month(Date());
     CalAnno = Year(Date());
+    CalGiorno = 0;
     if (Index >= 0) {
+        CalGiorno = CInt(txtData[Index * 3].Text()).value_or(0);
         const auto month = CInt(txtData[Index * 3 + 1].Text());
         const auto year = CInt(txtData[Index * 3 + 2].Text());
         if (month && year && IsCorrect(*month, *year)) {
@@ -83,6 +79,8 @@ void frmMain::ShowCalendar(int Index)
             CalAnno = *year;
         }
     }
+    if (CalGiorno < 1 || CalGiorno > LastDay())
+        CalGiorno = CalMese == Month(Date()) && CalAnno == Year(Date()) ? Day(Date()) : 1;
     hscDataScroll.SetValue(CalMese);
     FillCalendar(CalMese, CalAnno);
 }
@@ -93,46 +91,90 @@ void frmMain::HideCalendar()
     shpShadow.SetVisible(false);
 }
 
+/// The same, where the eye alone would notice.
+void frmMain::CloseCalendar()
+{
+    if (picCalendario.Visible()) forms::Announce(*this, "Calendario chiuso");
+    HideCalendar();
+}
+
 void frmMain::hscDataScroll_Change()
 {
-    if (hscDataScroll.Value() == YearAfter) {
-        hscDataScroll.SetValue(1);
-        if (CalAnno < LastYear) ++CalAnno;
-    } else if (hscDataScroll.Value() == YearBefore) {
-        hscDataScroll.SetValue(12);
-        if (CalAnno > FirstSteppedYear) --CalAnno;
-    }
     CalMese = hscDataScroll.Value();
-    FillCalendar(CalMese, CalAnno);
-}
-
-/// By the keyboard a day is typed, which marks it, and taken with Enter.
-void frmMain::hscDataScroll_KeyPress(short& KeyAscii)
-{
-    constexpr short Enter = 13;
-    if (KeyAscii == Enter && GIORNO.Has(TypedCell())) {
-        GIORNO_Click(TypedCell());
-    } else if (KeyAscii >= '0' && KeyAscii <= '9') {
-        CalGiorno = CalGiorno * 10 + (KeyAscii - '0');
-        if (!GIORNO.Has(TypedCell())) CalGiorno = KeyAscii - '0'; // no such day: another begins
-        MarkCell(TypedCell());
+    if (CalMese == YearAfter) {
+        if (CalAnno < LastYear) ++CalAnno;
+        hscDataScroll.SetValue(1); // comes here again
+    } else if (CalMese == YearBefore) {
+        if (CalAnno > FirstSteppedYear) --CalAnno;
+        hscDataScroll.SetValue(12);
+    } else {
+        CalGiorno = std::min(CalGiorno, LastDay());
+        FillCalendar(CalMese, CalAnno);
+        if (picCalendario.Visible()) AnnounceStep();
     }
 }
 
-/// The cell of the day that is being typed, 0 if the month has no such day.
-int frmMain::TypedCell() const
+/// The day, if the keyboard acts on the days, else the month.
+void frmMain::AnnounceStep()
 {
-    const int first = CLng(DateSerial(CalAnno, CalMese, 1));
-    const int cell = Weekday(first, 2) + CalGiorno - 1;
-    return CalGiorno > 0 && Month(first + CalGiorno - 1) == CalMese ? cell : 0;
+    forms::Announce(*this, ActiveControl() == &picOption ? MarkedCell().AccessibleName()
+                                                         : Format(FirstDay(), "mmmm yyyy"));
 }
 
-void frmMain::MarkCell(int Index)
+/// While the calendar is open the keys of the option strip go over its days.
+bool frmMain::picOption_KeyDown(forms::Key Pressed)
 {
-    for (auto& cell : GIORNO) cell.SetBackOpaque(false);
-    if (!GIORNO.Has(Index)) return;
-    GIORNO[Index].SetBackOpaque(true);
-    GIORNO[Index].SetBackColor(forms::ActiveBorder);
+    if (!picCalendario.Visible()) return false;
+    const int marked = FirstDay() + CalGiorno - 1;
+    using forms::Key;
+    switch (Pressed) {
+    case Key::Left: MoveMark(marked - 1); break;
+    case Key::Right: MoveMark(marked + 1); break;
+    case Key::Up: MoveMark(marked - 7); break;
+    case Key::Down: MoveMark(marked + 7); break;
+    case Key::PageUp: MoveMark(DateAdd("m", -1, marked).value()); break;
+    case Key::PageDown: MoveMark(DateAdd("m", 1, marked).value()); break;
+    case Key::Home: MoveMark(FirstDay()); break;
+    case Key::End: MoveMark(FirstDay() + LastDay() - 1); break;
+    case Key::Enter:
+    case Key::Space: MarkedCell().Click(); break;
+    case Key::Other: return false;
+    }
+    return true;
+}
+
+/// @param To  a day of the month on show, or of the one before or after: the calendar steps there.
+void frmMain::MoveMark(double To)
+{
+    CalGiorno = Day(To);
+    const int month = Month(To);
+    if (month == CalMese) {
+        PlaceMark();
+        AnnounceStep();
+    } else {
+        hscDataScroll.SetValue(CalMese + ((month - CalMese + 12) % 12 == 1 ? 1 : -1));
+    }
+}
+
+int frmMain::FirstDay() const
+{
+    return CLng(DateSerial(CalAnno, CalMese, 1));
+}
+
+int frmMain::LastDay() const
+{
+    return Day(DateSerial(CalAnno, CalMese + 1, 0));
+}
+
+const forms::Label& frmMain::MarkedCell() const
+{
+    return GIORNO[Weekday(FirstDay(), 2) + CalGiorno - 1];
+}
+
+void frmMain::PlaceMark()
+{
+    const forms::Label& cell = MarkedCell();
+    shpMarker.Move(cell.Left(), cell.Top(), cell.Width(), cell.Height());
 }
 
 void frmMain::txtCalMeseAnno_GotFocus()
@@ -147,8 +189,7 @@ void frmMain::FillCalendar(int Mese, int Anno)
     const int monday = first - Weekday(first, 2) + 1;
     const int easterMonday = EasterDate(Year(monday)) + 1;
     shpOggi.SetVisible(false);
-    CalGiorno = 0;
-    MarkCell(0);
+    PlaceMark();
     int serial = monday;
     for (auto& cell : GIORNO) FillDay(cell, serial++, Mese, easterMonday);
     const int today = static_cast<int>(Date()) - monday + 1;
@@ -173,7 +214,8 @@ void frmMain::FillDay(forms::Label& Cell, int Serial, int Mese, int MondayNumber
 
 void frmMain::GIORNO_MouseDown(int Index)
 {
-    MarkCell(Index);
+    GIORNO[Index].SetBackOpaque(true);
+    GIORNO[Index].SetBackColor(forms::ActiveBorder);
 }
 
 void frmMain::GIORNO_MouseUp(int Index)
@@ -186,12 +228,13 @@ void frmMain::GIORNO_Click(int Index)
 {
     const std::string day = Format(GIORNO[Index].Caption(), "00");
     ClearResults();
+    HideCalendar();
     const int first = CalCampo == 0 ? 0 : 3;
     txtData[first].SetText(day);
     txtData[first + 1].SetText(Format(CalMese, "00"));
     txtData[first + 2].SetText(Format(CalAnno, "0000"));
-    HideCalendar();
     picOption.SetFocus();
+    forms::Announce(*this, std::string(EndNames[CalCampo]) + ": " + GIORNO[Index].AccessibleName());
 }
 
 }

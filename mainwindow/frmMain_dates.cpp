@@ -20,7 +20,7 @@ void frmMain::Digits_KeyPress(int, short& KeyAscii)
 void frmMain::txtData_Change(int Index)
 {
     ClearResults();
-    HideCalendar();
+    CloseCalendar();
     DateField.Change(Index);
 }
 

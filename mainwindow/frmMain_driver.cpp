@@ -8,7 +8,6 @@
 #include "engine/Text.h"
 #include "services/App.h"
 #include "services/Platform.h"
-#include "services/forms/Accessibility.h"
 
 namespace vellarno {
 
@@ -30,7 +29,7 @@ bool AllFilled(const forms::ControlArray<forms::TextBox>& Boxes)
 
 void frmMain::cmdCalcola_Click()
 {
-    HideCalendar();
+    CloseCalendar();
     if (optDataTime[0].Value())
         CompareTimes();
     else if (optDataTime[1].Value())
@@ -112,28 +111,12 @@ void frmMain::ShowIncompleteData()
                     forms::Information, App::Title);
 }
 
-void frmMain::ClearResults()
-{
-    for (auto& label : lblDati) label.SetCaption("");
-    for (auto& label : lblTotali) label.SetCaption("");
-    for (auto& label : lblWeekDay) label.SetCaption("");
-}
-
 void frmMain::Form_KeyPress(short& KeyAscii)
 {
     constexpr short Enter = 13;
     if (KeyAscii != Enter || !dynamic_cast<forms::TextBox*>(ActiveControl())) return;
     forms::SendKeys("{TAB}");
     KeyAscii = 0;
-}
-
-void frmMain::AnnounceResults()
-{
-    std::string all;
-    for (const auto* labels : {&lblWeekDay, &lblDati, &lblTotali})
-        for (const auto& label : *labels)
-            if (!label.Caption().empty()) all += label.AccessibleName() + ", ";
-    if (!all.empty()) forms::Announce(*this, all.substr(0, all.size() - 2));
 }
 
 void frmMain::SetDati(int Index, const std::string& Caption)

@@ -1,12 +1,16 @@
 #include "mainwindow/frmMain.h"
 
 #include "services/GenericBas.h"
+#include "services/forms/Accessibility.h"
 
 namespace vellarno {
 
 namespace {
 
 enum Mode { Times, Moments, Dates };
+
+constexpr const char* ModeNames[] = {"Calcolo tra ore", "Calcolo tra date e ore",
+                                     "Calcolo tra date"};
 
 constexpr int ClickSound = 202;
 
@@ -17,6 +21,13 @@ struct PanelPlace
 
 /// Where the light panel lies behind the active section, by mode.
 constexpr PanelPlace Panels[] = {{115, 107}, {10, 207}, {10, 107}};
+
+bool HoldsText(const forms::ControlArray<forms::TextBox>& Boxes)
+{
+    for (auto& box : Boxes)
+        if (box.Enabled() && !box.Text().empty()) return true;
+    return false;
+}
 
 /// Each box's own change handling runs while it can still be used, and answers with its beep.
 void EmptyAndDisable(const forms::ControlArray<forms::TextBox>& Boxes)
@@ -31,12 +42,15 @@ void EmptyAndDisable(const forms::ControlArray<forms::TextBox>& Boxes)
 
 void frmMain::optDataTime_Click(int Index)
 {
+    const bool filled = HoldsText(txtData) || HoldsText(txtTime);
     HideCalendar();
     DisableAll();
     for (auto& picture : imgTipoCalcolo) picture.SetVisible(false);
     imgTipoCalcolo[Index].SetVisible(true);
     EnableMode(Index);
     ClearResults();
+    if (optDataTime[Index].Value())
+        forms::Announce(*this, std::string(ModeNames[Index]) + (filled ? ", campi vuoti" : ""));
 }
 
 void frmMain::DisableAll()

@@ -4,6 +4,7 @@
 #include "engine/DateTime.h"
 #include "engine/Text.h"
 #include "resources/Resources.h"
+#include "services/forms/Accessibility.h"
 
 #include <cstdlib>
 
@@ -110,6 +111,7 @@ void frmMain::cmdNowTime_Click(int Index)
     txtTime[first].SetText(Format(Hour(now), "00"));
     txtTime[first + 1].SetText(Format(Minute(now), "00"));
     txtTime[first + 2].SetText(Format(Second(now), "00"));
+    forms::Announce(*this, EndNames[Index] + Format(now, ": hh:mm:ss"));
 }
 
 }

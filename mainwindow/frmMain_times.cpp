@@ -11,7 +11,7 @@ void frmMain::txtTime_Change(int Index)
 
 void frmMain::txtTime_GotFocus(int Index)
 {
-    HideCalendar();
+    CloseCalendar();
     TimeField.Select(Index);
 }
 

@@ -6,13 +6,12 @@
 #include "services/Platform.h"
 #include "services/PrivateFile.h"
 #include "services/SystemSettings.h"
+#include "services/forms/Accessibility.h"
 #include "services/frmAbout.h"
 
 namespace vellarno {
 
 namespace {
-
-enum Icon { DateSettings, About, Help, SequentialSums };
 
 constexpr int OpeningSound = 201;
 constexpr int HelpPage = 300;
@@ -42,6 +41,7 @@ void frmMain::imgOnTop_Click()
     imgOnTop.SetPicture(resources::Icon(OnTopFlag ? 202 : 201));
     imgOnTop.SetPressed(OnTopFlag);
     SetAlwaysOnTop(*this, OnTopFlag);
+    forms::Announce(*this, imgOnTop.AccessibleName() + (OnTopFlag ? ": attivo" : ": non attivo"));
 }
 
 void frmMain::ShowHelp()

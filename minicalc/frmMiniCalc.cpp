@@ -3,6 +3,8 @@
 #include "minicalc/Accumulators.h"
 #include "services/GenericBas.h"
 #include "services/Trasparency.h"
+#include "services/forms/Accessibility.h"
+#include "services/forms/Desktop.h"
 #include "ui_frmMiniCalc.h"
 
 #include <array>
@@ -54,8 +56,20 @@ struct TimeFormat
 {
     int Digits;
     const char* Legend;
+    const char* Spoken;
 };
-constexpr TimeFormat TimeFormats[] = {{2, "hh  :  mm  :  ss"}, {3, " hh : mmm : sss"}};
+constexpr TimeFormat TimeFormats[] = {
+    {2, "hh  :  mm  :  ss", "Formato normale, minuti e secondi a due cifre"},
+    {3, " hh : mmm : sss", "Formato esteso, minuti e secondi a tre cifre"}};
+
+constexpr const char* SpokenSides[] = {"Calcolo con il tempo", "Calcolo con la data"};
+
+/// Where the total of a side stands: index of its caption and of the box around its fields.
+struct TotalPlace
+{
+    int Caption, Box;
+};
+constexpr TotalPlace TotalPlaces[] = {{2, 0}, {6, 2}};
 
 }
 
@@ -99,6 +113,7 @@ void frmMiniCalc::Form_Load()
     HelpIndexDate = FirstHelpOfUnits;
     HelpIndexTime = 0;
     ShowHelp();
+    OfferCopies();
     FadeInForm(*this); // last: the window can be used, and closed, while it fades in
 }
 
@@ -116,6 +131,12 @@ void frmMiniCalc::cmdChiudi_Click()
 
 void frmMiniCalc::cmdClear_Click()
 {
+    Clear();
+    AnnounceTotal();
+}
+
+void frmMiniCalc::Clear()
+{
     if (optBase[TimeSide].Value())
         ClearTime();
     else
@@ -129,7 +150,8 @@ void frmMiniCalc::optBase_Click(int Index)
     picBase[Index].SetVisible(true);
     if (!PlayClickOf(optBase[Index])) return;
     ShowHelp();
-    cmdClear_Click();
+    Clear();
+    forms::Announce(*this, SpokenSides[Index]);
 }
 
 void frmMiniCalc::optFormat_Click(int Index)
@@ -141,7 +163,8 @@ void frmMiniCalc::optFormat_Click(int Index)
     lblTime[1].SetCaption(format.Legend);
     HelpIndexTime = Index;
     ShowHelp();
-    cmdClear_Click();
+    Clear();
+    forms::Announce(*this, format.Spoken);
 }
 
 void frmMiniCalc::optTipoDati_Click(int Index)
@@ -150,17 +173,60 @@ void frmMiniCalc::optTipoDati_Click(int Index)
     lblTime[5].SetCaption(std::string(DateUnits[Index].Name));
     HelpIndexDate = FirstHelpOfUnits + Index;
     ShowHelp();
-    cmdClear_Click();
+    Clear();
+    forms::Announce(*this, lblTime[5].Caption());
 }
 
 void frmMiniCalc::optSomma_Click(int Index)
 {
-    if (PlayClickOf(optSomma[Index])) lblTime[3].SetCaption(OperationName(Index));
+    if (!PlayClickOf(optSomma[Index])) return;
+    lblTime[3].SetCaption(OperationName(Index));
+    forms::Announce(*this, OperationName(Index));
 }
 
 void frmMiniCalc::optSommaData_Click(int Index)
 {
-    if (PlayClickOf(optSommaData[Index])) lblTime[7].SetCaption(OperationName(Index));
+    if (!PlayClickOf(optSommaData[Index])) return;
+    lblTime[7].SetCaption(OperationName(Index));
+    forms::Announce(*this, OperationName(Index));
+}
+
+std::string frmMiniCalc::Total() const
+{
+    const bool date = optBase[DateSide].Value();
+    const auto& boxes = date ? txtData : txtCalc;
+    for (const int i : {0, 1, 2})
+        if (boxes[i].Text().empty()) return "";
+    const char* separator = date ? "/" : ":";
+    return boxes[0].Text() + separator + boxes[1].Text() + separator + boxes[2].Text();
+}
+
+void frmMiniCalc::AnnounceTotal()
+{
+    forms::Announce(*this, (optBase[DateSide].Value() ? "Data: " : "Progressivo: ") + Total());
+}
+
+/// On the caption and the box of each total, and on its fields, whose own menu copies what is
+/// selected in them.
+void frmMiniCalc::OfferCopies()
+{
+    const forms::MenuEntry one{"Copia", [this] { CopyTotal(false); }};
+    const forms::MenuEntry all{"Copia tutti i risultati", [this] { CopyTotal(true); }};
+    for (const auto& [caption, box] : TotalPlaces) {
+        lblTime[caption].SetMenu({one, all});
+        picCalc[box].SetMenu({one, all});
+    }
+    for (const auto* boxes : {&txtCalc, &txtData})
+        for (const int i : {0, 1, 2}) (*boxes)[i].SetMenu({all});
+}
+
+void frmMiniCalc::CopyTotal(bool WithCaption)
+{
+    const int side = optBase[DateSide].Value() ? DateSide : TimeSide;
+    if (Total().empty()) return;
+    const std::string caption = lblTime[TotalPlaces[side].Caption].Caption() + ": ";
+    forms::SetClipboardText((WithCaption ? caption : "") + Total() + (WithCaption ? "\n" : ""));
+    forms::Announce(*this, "Risultati copiati");
 }
 
 /// Title and text belong to the side on screen, also where it was left while an option sounded.

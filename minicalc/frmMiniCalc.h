@@ -9,6 +9,7 @@
 #include "services/forms/TextBox.h"
 
 #include <array>
+#include <string>
 
 namespace Ui {
 class frmMiniCalc;
@@ -33,6 +34,7 @@ private:
     void Form_KeyPress(short& KeyAscii);
     void cmdChiudi_Click();
     void cmdClear_Click();
+    void Clear();
     void ClearTime();
     void ClearDate();
 
@@ -41,6 +43,12 @@ private:
     void optTipoDati_Click(int Index);
     void optSomma_Click(int Index);
     void optSommaData_Click(int Index);
+
+    // The running total, as it stands on the side on screen
+    std::string Total() const;
+    void AnnounceTotal();
+    void OfferCopies();
+    void CopyTotal(bool WithCaption);
 
     void ShowHelp();
     void SetHelpTitle(int Index);
@@ -76,6 +84,7 @@ private:
     forms::ControlArray<forms::OptionButton> optSomma{*this, "optSomma"};
     forms::ControlArray<forms::OptionButton> optSommaData{*this, "optSommaData"};
     forms::ControlArray<forms::PictureBox> picBase{*this, "picBase"};
+    forms::ControlArray<forms::PictureBox> picCalc{*this, "picCalc"};
 
     // Entry and result
     forms::ControlArray<forms::TextBox> txtCalc{*this, "txtCalc"};

@@ -5,7 +5,6 @@
 #include "minicalc/frmMiniCalc.h"
 #include "services/App.h"
 #include "services/Platform.h"
-#include "services/forms/Accessibility.h"
 
 namespace vellarno {
 
@@ -47,7 +46,7 @@ void frmMiniCalc::cmdSommaData_Click()
     if (result) {
         ShowDate(*result);
         txtSommaDati.SetFocus();
-        forms::Announce(*this, "Data: " + TypedDate());
+        AnnounceTotal();
     } else {
         System().MsgBox(NoDateText, forms::Critical, App::Title);
         txtData[DayField].SetFocus();

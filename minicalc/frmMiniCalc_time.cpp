@@ -2,7 +2,6 @@
 #include "engine/Text.h"
 #include "minicalc/Accumulators.h"
 #include "minicalc/frmMiniCalc.h"
-#include "services/forms/Accessibility.h"
 
 namespace vellarno {
 
@@ -50,8 +49,7 @@ void frmMiniCalc::cmdSommaOre_Click()
     txtCalc[2].SetText(Format(total.Seconds, "00"));
     for (int i = FirstOfValue; i < Fields; ++i) txtCalc[i].SetText(Zero);
     txtCalc[FirstOfValue].SetFocus();
-    forms::Announce(*this, "Progressivo: " + txtCalc[0].Text() + ':' + txtCalc[1].Text() + ':' +
-                               txtCalc[2].Text());
+    AnnounceTotal();
 }
 
 ClockTime frmMiniCalc::ReadTime(int First, int Sign) const

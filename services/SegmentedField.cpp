@@ -2,6 +2,7 @@
 
 #include "engine/Text.h"
 #include "services/Platform.h"
+#include "services/forms/Accessibility.h"
 
 namespace vellarno {
 
@@ -9,6 +10,7 @@ namespace {
 
 void Refuse(forms::TextBox& Box)
 {
+    if (!Box.Text().empty()) forms::Announce(Box, Box.AccessibleName() + ": vuoto");
     Box.SetText("");
     System().Beep();
 }

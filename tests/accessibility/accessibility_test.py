@@ -25,6 +25,12 @@ RESULTS = [
     "Totale ore", "Totale minuti", "Totale secondi"]
 
 
+def told(values):
+    """What is said of the results, "-" for each that is empty."""
+    return ", ".join(f"{name}: {value}" for name, value in zip(RESULTS, values.split())
+                     if value != "-")
+
+
 def wait(condition, what):
     """The first true value of the condition, while the events of the bus are served."""
     def serve():
@@ -76,11 +82,11 @@ class AccessibilityTest(unittest.TestCase):
         self.addCleanup(program.clean)
         self.addCleanup(lambda: self.assertEqual(program.end(), (0, "", [])))
         self.addCleanup(program.process.terminate)
-        self.spoken = []
-        self.listener = Atspi.EventListener.new(
-            lambda event: event.detail1 and self.spoken.append(Control(event.source)))
-        self.listener.register("object:state-changed:showing")
-        self.addCleanup(self.listener.deregister, "object:state-changed:showing")
+        self.program, self.title, self.spoken, self.focus = program, outside.MAIN, [], ""
+        self.listener = Atspi.EventListener.new(self.hear)
+        for event in "object:state-changed:showing", "object:state-changed:focused":
+            self.listener.register(event)
+            self.addCleanup(self.listener.deregister, event)
         self.application = wait(lambda: next(
             (child for child in children(Atspi.get_desktop(0))
              if child.get_process_id() == program.process.pid and children(child)), None),
@@ -89,6 +95,16 @@ class AccessibilityTest(unittest.TestCase):
         self.main = self.window(outside.MAIN)
         clock = lambda: any(control.name.startswith("Ora: ") for control in self.main.showing())
         wait(clock, "the clock")
+
+    def hear(self, event):
+        try:
+            control = Control(event.source)
+        except GLib.Error:  # it has gone meanwhile
+            return
+        if event.detail1 and event.type.endswith("focused"):
+            self.focus = control.name
+        elif event.detail1 and control.role == "notification":
+            self.spoken.append(control.name)
 
     def window(self, title):
         return next((Control(child) for child in children(self.application)
@@ -99,10 +115,23 @@ class AccessibilityTest(unittest.TestCase):
         return wait(lambda: self.window(title), title)
 
     def expect_spoken(self, text):
-        notes = lambda: [control.name for control in self.spoken
-                         if control.role == "notification"]
-        wait(lambda: notes() == [text], f"{text!r} to be said")
+        wait(lambda: self.spoken, f"{text!r} to be said")
+        self.assertEqual(self.spoken, [text])
         self.spoken.clear()
+
+    def press(self, *keys, says=None):
+        self.program.press(*keys, title=self.title)
+        if says:
+            self.expect_spoken(says)
+
+    def tab_to(self, name):
+        for _ in range(40):
+            before = self.focus
+            self.press("Tab")
+            wait(lambda: self.focus != before, "the focus to go on")
+            if self.focus == name:
+                return
+        self.fail(f"the Tab key doesn't reach {name}")
 
     def named(self, window, unnamed_labels):
         """Labels without a name are separators, and captions that another control repeats."""
@@ -116,25 +145,24 @@ class AccessibilityTest(unittest.TestCase):
         self.assertEqual([name for name, times in names.items() if times > 1], [])
         return controls
 
-    def compare(self, mode, typed, values):
+    def compare(self, mode, spoken, typed, values):
         """A calculation whose results are all said and all stand in the window."""
         self.main.choose(mode)
+        self.expect_spoken(spoken)
         self.named(self.main, 10)
         self.main.fill(typed)
         self.main.find("Calcola").act()
-        results = [f"{name}: {value}" for name, value in zip(RESULTS, values.split())
-                   if value != "-"]
-        self.expect_spoken(", ".join(results))
+        self.expect_spoken(told(values))
         names = [control.name for control in self.main.showing()]
         shown = [name for name in names
                  if name.rpartition(": ")[0] in RESULTS and not name.endswith(": ")]
-        self.assertCountEqual(shown, results)
+        self.assertCountEqual(shown, told(values).split(", "))
 
     def test_a_calculation_of_each_mode_is_done_and_heard(self):
-        self.compare("Data+Ora", DATES | TIMES, "Sabato Sabato 00 11 30 02 30 10 "
+        self.compare("Data+Ora", "Calcolo tra date e ore", DATES | TIMES, "Sabato Sabato 00 11 30 02 30 10 "
                      "364 52 303 52 52 09 8.738 524.310 31.458.610")
-        self.compare("Ora", TIMES, "- - - - - 02 30 10 - - - - - - 02 150 9.010")
-        self.compare("Data", DATES, "Sabato Sabato 00 11 30 - - - 364 52 303 52 52 09 - - -")
+        self.compare("Ora", "Calcolo tra ore, campi vuoti", TIMES, "- - - - - 02 30 10 - - - - - - 02 150 9.010")
+        self.compare("Data", "Calcolo tra date, campi vuoti", DATES, "Sabato Sabato 00 11 30 - - - 364 52 303 52 52 09 - - -")
 
     def test_a_total_tells_its_meaning_under_the_options(self):
         self.main.choose("Data")
@@ -143,35 +171,60 @@ class AccessibilityTest(unittest.TestCase):
         days = wait(lambda: self.main.find("Totale giorni: 365"), "the whole day")
         self.assertIn("inclusa", days.node.get_description())
 
-    def test_the_pin_tells_its_state(self):
-        for pinned in (True, False):
-            self.main.choose("Sempre in primo piano", "Press", pinned)
+    def test_two_dates_are_compared_by_keys_alone(self):
+        self.tab_to("Ora")
+        self.press("Down", says="Calcolo tra date e ore")
+        self.tab_to("Data+Ora")
+        self.press("Down", says="Calcolo tra date")
+        self.press(*"32", says="Inizio, giorno: vuoto")
+        self.press(*"0504201003052010")
+        self.tab_to("Calendario per l'inizio")
+        self.press("space", says="Calendario per l'inizio: lunedì 5 aprile 2010, festivo")
+        self.press("Down", says="lunedì 12 aprile 2010")
+        self.press("Next", says="mercoledì 12 maggio 2010")
+        self.press("Home", says="sabato 1 maggio 2010, festivo")
+        self.press("Return", says="Inizio: sabato 1 maggio 2010, festivo")
+        self.tab_to("Calendario per la fine")
+        self.press("space", says="Calendario per la fine: lunedì 3 maggio 2010")
+        self.press("End", says="lunedì 31 maggio 2010")
+        self.press("Right", says="martedì 1 giugno 2010")
+        self.press("space", says="Fine: martedì 1 giugno 2010")
+        self.tab_to("Calendario per la fine")
+        self.press("space", says="Calendario per la fine: martedì 1 giugno 2010")
+        self.tab_to("Calcola")
+        self.press("space", says="Calendario chiuso, " + told("Sabato Martedì 00 01 00 - - - 31 05 25 05 05 01 - - -"))
+        self.press("ctrl+shift+c", says="Risultati copiati")
 
-    def test_a_day_of_the_calendar_is_named_and_picked(self):
-        self.main.choose("Data")
-        self.main.fill({"Inizio, mese": "04", "Inizio, anno": "2010"})
-        self.main.find("Calendario per l'inizio").act()
-        find_day = lambda: self.main.find("lunedì 5 aprile 2010, festivo")
-        easter_monday = wait(find_day, "the calendar")
-        days = [c for c in self.named(self.main, 10) if " aprile 2010" in c.name]
-        self.assertEqual(len(days), 30)
-        for day in (easter_monday, easter_monday):  # the second press finds the calendar closed
-            day.act()
-        wait(lambda: not find_day(), "the end of the calendar")
-        typed = self.main.find("Inizio, giorno").node
-        self.assertEqual(Atspi.Text.get_text(typed, 0, -1), "05")
+    def test_sums_are_done_by_keys_alone(self):
+        self.tab_to("Calcoli in sequenza")
+        self.press("space")
+        self.title = outside.SUMS
+        self.tab_to("Uguale")
+        self.press("minus", says="Sottrai")
+        self.press("Return", says="Progressivo: 00:00:00")
+        self.press(*"000001", "Return", says="Progressivo: 23:59:59")
+        self.tab_to("hh:mm:ss")
+        self.press("Down", says="Formato esteso, minuti e secondi a tre cifre")
+        self.tab_to("Tempo")
+        self.press("Down", says="Calcolo con la data")
+        self.tab_to("Giorni")
+        self.press("Down", says="settimane")
+        self.tab_to("Data, giorno")
+        self.press(*"310120051", "Tab", "Return", says="Data: 07/02/2005")
 
-    def test_sums_are_done_and_heard(self):
-        sums = self.open("Calcoli in sequenza", outside.SUMS)
-        for side, unnamed, unit, typed, spoken in (
-                ("Tempo", 4, "hh:mm:ss", "10 00 00 01 30 00", "Progressivo: 11:30:00"),
-                ("Data", 2, "Mesi", "31 01 2005 1", "Data: 28/02/2005")):
-            sums.choose(side)
-            fields = [c.name for c in self.named(sums, unnamed) if c.role == "text"]
-            sums.choose(unit)
-            sums.fill(dict(zip(fields, typed.split())))
-            sums.find("Uguale").act()
-            self.expect_spoken(spoken)
+    def test_help_pin_and_about_box_are_reached_by_keys_alone(self):
+        self.press("F1")
+        self.assertIn("HelpVellarno.htm", self.program.asked("xdg-open"))
+        self.tab_to("Sempre in primo piano")
+        for on, state in (True, "attivo"), (False, "non attivo"):
+            self.press("space", says=f"Sempre in primo piano: {state}")
+            self.assertEqual("checked" in self.main.find("Sempre in primo piano").states, on)
+        self.tab_to("Informazioni sul programma")
+        self.press("Return")
+        self.title = outside.ABOUT
+        self.tab_to("Sito web")
+        self.press("Return")
+        wait(lambda: not self.window(outside.ABOUT), "the end of the box")
 
     def test_the_about_box_is_a_dialog_that_holds_the_window(self):
         box = self.open("Informazioni sul programma", outside.ABOUT)

@@ -1,5 +1,8 @@
 #include "tests/support/MainWindow.h"
 
+#include <QAction>
+#include <QClipboard>
+
 using namespace vellarno::test;
 using TimeCalculation = Before<Mode::Times>;
 using DateCalculation = Before<Mode::Dates>;
@@ -77,6 +80,22 @@ TEST_F(MomentCalculation, RefusesAnyEmptyField)
                                  "e riprovare.");
             EXPECT_FALSE(HasResults()) << box.objectName().toStdString();
         }
+}
+
+TEST_F(MomentCalculation, AllThatIsOnScreenIsCopied)
+{
+    const auto copied = [] { return QGuiApplication::clipboard()->text().toStdString(); };
+    QGuiApplication::clipboard()->setText("kept");
+    Press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(copied(), "kept") << "there is nothing yet";
+    Compare("1003200512032005", "060000120000");
+    Press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(copied(), "Inizio: Giovedì\nFine: Sabato\nanni: 00\nmesi: 00\ngiorni: 02\nore: 06\n"
+                        "minuti: 00\nsecondi: 00\ngiorni: 02\nsettimane: 00\nlavorativi: 03\n"
+                        "sabati: 01\ndomeniche: 00\nfestivi: 00\ntotale ore: 54\n"
+                        "totale minuti: 3.240\ntotale secondi: 194.400\n");
+    lblTotali[8].Widget().actions().at(0)->trigger();
+    EXPECT_EQ(copied(), "194.400");
 }
 
 TEST_F(DateCalculation, RefusesADateThatIsNoneOrBefore1000WhichStays)

@@ -131,6 +131,49 @@ TEST_F(Calendar, ADayPickedIsWrittenIntoItsEntryWithTheMonthOnShow)
     EXPECT_EQ(Dates(), "05/03/2021 19/04/2021");
 }
 
+TEST_F(Calendar, KeysMoveAMarkOverTheDaysAndTakeOne)
+{
+    const struct
+    {
+        const char* Typed;
+        std::vector<Qt::Key> Keys;
+        const char* Taken;
+    } rows[] = {{"31012021", {Qt::Key_PageDown, Qt::Key_Return}, "28/02/2021"},
+                {"28022021", {Qt::Key_Right, Qt::Key_Down, Qt::Key_Space}, "08/03/2021"},
+                {"03032021", {Qt::Key_Up, Qt::Key_Left, Qt::Key_Enter}, "23/02/2021"},
+                {"15032021", {Qt::Key_PageUp, Qt::Key_End, Qt::Key_Space}, "28/02/2021"},
+                {"15012021", {Qt::Key_Home, Qt::Key_Left, Qt::Key_Space}, "31/12/2020"},
+                {"31122100", {Qt::Key_Right, Qt::Key_Space}, "01/01/2100"},
+                {"05011900", {Qt::Key_PageUp, Qt::Key_Space}, "05/12/1900"},
+                {"32", {Qt::Key_Space}, "22/11/2026"}};
+    for (const auto& [typed, keys, taken] : rows) {
+        EnterDates(typed);
+        TakeLog();
+        OpenFor(0);
+        for (const auto key : keys) Press(key);
+        EXPECT_TRUE(CalendarIsClosed());
+        EXPECT_EQ(Dates().substr(0, 10), taken) << typed;
+        EXPECT_EQ(Focus(), "picOption");
+        Enter(txtData[1], "");
+        txtData[1].SetText("");
+        txtData[2].SetText("");
+        TakeLog();
+    }
+}
+
+TEST_F(Calendar, TheMarkIsSeenWhileTheKeysMoveIt)
+{
+    OpenOn(3, 2021); // no day typed, and not today's month: on the first
+    const auto ringed = [&](int cell) {
+        return CountPoints(Seen(GIORNO[cell]), forms::palette::Accent) > 20;
+    };
+    EXPECT_TRUE(ringed(1) && !ringed(2));
+    Press(Qt::Key_Right);
+    EXPECT_TRUE(!ringed(1) && ringed(2));
+    hscDataScroll.SetFocus();
+    EXPECT_FALSE(ringed(2));
+}
+
 TEST_F(Calendar, IsClosedByWhatNeedsItsPlaceAndByNothingElse)
 {
     Choose(Mode::Moments);

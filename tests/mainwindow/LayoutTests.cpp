@@ -53,7 +53,8 @@ TEST_F(Layout, TabGoesRoundWhatTheModeUses)
     EXPECT_EQ(TabOrder(*this),
               "txtData_0 txtData_1 txtData_2 txtData_3 txtData_4 txtData_5 txtTime_0 txtTime_1 "
               "txtTime_2 txtTime_3 txtTime_4 txtTime_5 cmdCalcola optDataTime_1 cmdNowData_0 "
-              "cmdNowData_1 cmdNowTime_0 cmdNowTime_1 chkWorkSat");
+              "cmdNowData_1 cmdNowTime_0 cmdNowTime_1 chkWorkSat imgOnTop picToolBarra_3 "
+              "picToolBarra_0 picToolBarra_2 picToolBarra_1");
 }
 
 TEST_F(Layout, TheHandIsOverWhatCanBePressed)
@@ -81,6 +82,17 @@ TEST_F(Layout, PicturesAndGroundsShowWhatCanBeUsed)
     }
     EXPECT_NE(Seen(cmdNowData[1]), Seen(cmdNowTime[1]));
     EXPECT_NE(Seen(picToolBarra[0]), Seen(picToolBarra[2]));
+}
+
+TEST_F(Layout, PinAndIconsShowThatTheyHaveTheKeyboard)
+{
+    const std::initializer_list<const forms::Control*> controls = {
+        &imgOnTop, &picToolBarra[0], &picToolBarra[1], &picToolBarra[2], &picToolBarra[3]};
+    for (const forms::Control* each : controls) {
+        const int before = CountPoints(Seen(*each), forms::palette::Accent);
+        each->Widget().setFocus();
+        EXPECT_GT(CountPoints(Seen(*each), forms::palette::Accent), before + 20);
+    }
 }
 
 TEST_F(Layout, SundaysAndHolidaysAreRedFigures)

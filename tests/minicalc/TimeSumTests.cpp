@@ -1,5 +1,8 @@
 #include "tests/support/SumsWindow.h"
 
+#include <QClipboard>
+#include <QMenu>
+
 using namespace vellarno::test;
 
 struct TimeSum : testing::Test, SumsWindow
@@ -63,6 +66,18 @@ TEST_F(TimeSum, EmptyBoxesCountAsZeroAndLoneDigitsAsTheyStand)
     EXPECT_EQ(Times(), "__:__:__ 5_:__:__") << "leaving fills nothing";
     Click(cmdSommaOre);
     EXPECT_EQ(Times(), "05:00:00 00:00:00");
+}
+
+TEST_F(TimeSum, TheTotalIsCopied)
+{
+    Enter(txtCalc[0], "113000");
+    Click(txtCalc[0], Qt::RightButton);
+    auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    menu->actions().back()->trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "inizio / progressivo: 11:30:00\n");
+    lblTime[2].actions().at(0)->trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "11:30:00");
 }
 
 TEST_F(TimeSum, ResetTakesAllButTheChoices)
