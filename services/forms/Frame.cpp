@@ -74,10 +74,12 @@ QMargins FrameMargins(QWidget& Window)
     const auto window = static_cast<xcb_window_t>(Window.winId());
     RequestFrameExtents(display, root, window, request);
     const xcb_atom_t answer = Atom(display, "_NET_FRAME_EXTENTS");
-    std::vector<std::uint32_t> extents;
+    auto extents = Property(display, window, answer);
     for (const QDeadlineTimer patience(PatienceMilliseconds);
-         extents.size() != 4 && !patience.hasExpired(); QThread::msleep(1))
+         extents.size() != 4 && !patience.hasExpired();) {
+        QThread::msleep(1);
         extents = Property(display, window, answer);
+    }
     if (extents.size() != 4) return {};
     const auto pixels = [&](std::size_t side) {
         return qRound(extents[side] / Window.devicePixelRatioF());
