@@ -14,6 +14,9 @@ double SystemNow()
 {
     const std::time_t Seconds = std::time(nullptr);
     std::tm Local{};
+    // The user may have changed the system's zone; localtime_r alone keeps to the first one. Where
+    // the zone's file is the same this costs a look at it.
+    tzset();
     localtime_r(&Seconds, &Local);
     return DateSerial(Local.tm_year + 1900, Local.tm_mon + 1, Local.tm_mday) +
            TimeSerial(Local.tm_hour, Local.tm_min, Local.tm_sec);

@@ -74,12 +74,14 @@ TEST(Dates, StepsMeetMidnightAndEndWithTheValidDates)
     }
 }
 
-TEST(Dates, TheClockTellsLocalTime)
+TEST(Dates, TheClockTellsLocalTimeAlsoWhenTheZoneHasChanged)
 {
     const double utc = DateSerial(1970, 1, 1) + static_cast<double>(std::time(nullptr)) / 86400;
-    setenv("TZ", "AAA-13:45", 1);
-    const double passed = Now() - TimeSerial(13, 45, 0) - utc;
-    EXPECT_TRUE(passed > -TimeSerial(0, 0, 2) && passed < TimeSerial(1, 0, 0)) << passed;
+    for (const auto& [zone, hours] : {std::pair("AAA-13:45", 13.75), std::pair("BBB5", -5.0)}) {
+        setenv("TZ", zone, 1);
+        const double passed = Now() - hours / 24 - utc;
+        EXPECT_TRUE(passed > -TimeSerial(0, 0, 2) && passed < TimeSerial(1, 0, 0)) << passed;
+    }
 }
 
 /// Labels that keep nothing but when the hourglass came and went.
