@@ -18,11 +18,7 @@ public:
     }
     void PlaySound(const std::string& WaveImage) override { sounds.Play(WaveImage); }
     bool OpenAddress(const std::string& Address) override { return forms::OpenAddress(Address); }
-    bool StartProgram(const std::string& Program,
-                      const std::vector<std::string>& Arguments) override
-    {
-        return forms::StartDetached(Program, Arguments);
-    }
+    bool StartEntry(const std::string& Entry) override { return forms::StartEntry(Entry); }
     std::string PrivateFolder() override { return forms::PrivateFolder(); }
     bool Compositing() override { return forms::Compositing(); }
     bool BecomeOnlyInstance() override { return instance.Take(PrivateFolder()); }

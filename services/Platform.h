@@ -3,7 +3,6 @@
 #include "services/forms/Desktop.h"
 
 #include <string>
-#include <vector>
 
 namespace vellarno {
 
@@ -21,9 +20,9 @@ public:
     virtual void PlaySound(const std::string& WaveImage) = 0;
     /// Opens a file or an address in the application that the desktop has for it.
     virtual bool OpenAddress(const std::string& Address) = 0;
-    /// Starts a program that then lives by itself. @return false if it isn't there.
-    virtual bool StartProgram(const std::string& Program,
-                              const std::vector<std::string>& Arguments) = 0;
+    /// Starts a program of the desktop by the name of its entry; it then lives by itself.
+    /// @return false if the entry or its program isn't there.
+    virtual bool StartEntry(const std::string& Entry) = 0;
     /// A folder that only the user can enter, without a separator at its end, or nothing.
     virtual std::string PrivateFolder() = 0;
     virtual bool Compositing() = 0;

@@ -1,45 +1,31 @@
 #include "services/SystemSettings.h"
 
+#include "services/App.h"
 #include "services/Platform.h"
-
-#include <string>
-#include <vector>
 
 namespace vellarno {
 
 namespace {
 
-struct SettingsProgram
-{
-    const char* Program;
-    std::vector<std::string> Arguments;
+/// The desktops' own entries for date and time. The entry tells the command, which changes from one
+/// version of a desktop to the next.
+constexpr const char* Entries[] = {
+    "gnome-datetime-panel",       // GNOME
+    "kcm_clock",                  // KDE
+    "cinnamon-settings-calendar", // Cinnamon
+    "mate-time-admin",            // MATE
+    "lxqt-admin-time",            // LXQt
+    "time",                       // gnome-system-tools, for desktops without their own, as Xfce
 };
-
-const std::vector<SettingsProgram>& KnownPrograms()
-{
-    static const std::vector<SettingsProgram> programs = {
-#ifdef _WIN32
-        {"rundll32.exe", {"shell32.dll,Control_RunDLL", "timedate.cpl"}},
-#else
-        {"gnome-control-center", {"datetime"}}, // GNOME
-        {"systemsettings", {"kcm_clock"}},      // KDE
-        {"systemsettings5", {"kcm_clock"}},
-        {"kcmshell5", {"clock"}},
-        {"cinnamon-settings", {"calendar"}}, // Cinnamon
-        {"mate-time-admin", {}},             // MATE
-        {"time-admin", {}},                  // Xfce
-        {"lxqt-admin-time", {}},             // LXQt
-#endif
-    };
-    return programs;
-}
 
 }
 
 void StartDateSettings()
 {
-    for (const auto& [program, arguments] : KnownPrograms())
-        if (System().StartProgram(program, arguments)) return;
+    for (const char* entry : Entries)
+        if (System().StartEntry(entry)) return;
+    System().MsgBox("Nel sistema non c'è un programma per impostare la data e l'ora.",
+                    forms::Information, App::Title);
 }
 
 }

@@ -2,8 +2,8 @@
 
 namespace vellarno {
 
-/// Starts the desktop's own date and time settings, the first that is there. Nothing happens where
-/// there are none.
+/// Starts the desktop's own date and time settings, the first that is there, or tells that there
+/// are none.
 void StartDateSettings();
 
 }

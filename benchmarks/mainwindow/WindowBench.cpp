@@ -22,7 +22,7 @@ public:
     void MsgBox(const std::string&, forms::MessageStyle, const std::string&) override {}
     void PlaySound(const std::string&) override {}
     bool OpenAddress(const std::string&) override { return true; }
-    bool StartProgram(const std::string&, const std::vector<std::string>&) override { return true; }
+    bool StartEntry(const std::string&) override { return true; }
     std::string PrivateFolder() override { return {}; }
     bool Compositing() override { return false; }
     bool BecomeOnlyInstance() override { return true; }

@@ -98,12 +98,19 @@ bool OpenAddress(const std::string& Address)
     return Quietly([&url] { return QDesktopServices::openUrl(url); });
 }
 
-bool StartDetached(const std::string& Program, const std::vector<std::string>& Arguments)
+bool StartEntry(const std::string& Entry)
 {
-    QStringList arguments;
-    for (const auto& argument : Arguments) arguments += QString::fromStdString(argument);
-    const QString path = QStandardPaths::findExecutable(QString::fromStdString(Program));
-    return !path.isEmpty() && QProcess::startDetached(path, arguments);
+    QFile entry(QStandardPaths::locate(QStandardPaths::ApplicationsLocation,
+                                       QString::fromStdString(Entry + ".desktop")));
+    if (!entry.exists() || !entry.open(QIODevice::ReadOnly)) return false;
+    const QByteArray start = "Exec=";
+    QByteArray line; // the first such line is the entry's own, before those of its actions
+    do line = entry.readLine();
+    while (!line.isEmpty() && !line.startsWith(start));
+    QStringList command = QProcess::splitCommand(QString::fromUtf8(line.mid(start.size())));
+    if (command.isEmpty()) return false;
+    const QString program = QStandardPaths::findExecutable(command.takeFirst());
+    return !program.isEmpty() && QProcess::startDetached(program, command);
 }
 
 // Platforms without a display may have the interface, but no connection behind it.

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 struct xcb_connection_t;
 
@@ -34,8 +33,10 @@ void SetScreenPointer(bool Hourglass);
 /// @return false when the desktop has none or could not start it.
 bool OpenAddress(const std::string& Address);
 
-/// Starts a program that then lives by itself, without a shell. @return false if it isn't there.
-bool StartDetached(const std::string& Program, const std::vector<std::string>& Arguments);
+/// Starts, without a shell, the program of a desktop entry; it then lives by itself.
+/// @param Entry  name of the entry's file without ".desktop".
+/// @return false if the entry or its program isn't there.
+bool StartEntry(const std::string& Entry);
 
 /// Whether windows can be seen through: a compositor runs on the display.
 bool Compositing();

@@ -58,9 +58,13 @@ class Program:
     def __init__(self, binary, beside=None, scale=1, fonts=FONTS, before=":", **environment):
         self.scale = scale
         self.home = beside.home if beside else pathlib.Path(tempfile.mkdtemp())
-        for tool in ("xdg-open", "gnome-control-center"):
+        for tool in ("xdg-open", "date-settings"):
             self.write(tool, f'#!/bin/sh\necho "{tool} $*" >>"$HOME/asked"\n').chmod(0o700)
-        variables = os.environ | dict.fromkeys(("HOME", "XDG_RUNTIME_DIR", "TMPDIR"), self.home) | {
+        (self.home / "applications").mkdir(exist_ok=True)
+        self.write("applications/gnome-datetime-panel.desktop",
+                   "[Desktop Entry]\nExec=date-settings system datetime\n")
+        variables = os.environ | dict.fromkeys(
+            ("HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME", "TMPDIR"), self.home) | {
             "PATH": f"{self.home}:{os.environ['PATH']}", "LC_ALL": "C.UTF-8",
             "FONTCONFIG_FILE": self.write("fonts", f"<fontconfig>{fonts}</fontconfig>"),
             "ALSA_CONFIG_PATH": self.write("sound", self.SOUND_CARD.format(self.home)),

@@ -78,7 +78,7 @@ class ProgramTest(unittest.TestCase):
     def test_the_desktops_date_settings_are_started(self):
         program = self.start()
         program.click("date icon")
-        self.assertEqual(program.asked("gnome-control-center"), "datetime")
+        self.assertEqual(program.asked("date-settings"), "system datetime")
 
     def test_a_choice_sounds(self):
         program = self.start()

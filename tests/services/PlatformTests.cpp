@@ -54,23 +54,31 @@ TEST_F(RuntimeFolder, OneProcessAtATimeHoldsTheLock)
     EXPECT_TRUE(third.Take(runtime / "none")) << "without a folder nobody is refused";
 }
 
-TEST_F(RuntimeFolder, AProgramIsStartedWithItsArgumentsIfItIsThere)
+TEST_F(RuntimeFolder, AProgramIsStartedAsItsEntrySaysIfItIsThere)
 {
     const fs::path file = runtime / "a b";
-    EXPECT_TRUE(System().StartProgram("touch", {file}));
+    qputenv("XDG_DATA_HOME", runtime.c_str());
+    fs::create_directory(runtime / "applications");
+    std::ofstream(runtime / "applications/touch.desktop")
+        << "[Desktop Entry]\nExec=touch \"" << file.string() << "\"\n";
+    std::ofstream(runtime / "applications/gone.desktop") << "[Desktop Entry]\nExec=vellarno-none\n";
+    EXPECT_TRUE(System().StartEntry("touch"));
     EXPECT_TRUE(WaitUntil([&] { return FileExists(file); }));
-    EXPECT_FALSE(System().StartProgram("vellarno-none", {}));
+    for (const char* entry : {"gone", "never"}) EXPECT_FALSE(System().StartEntry(entry)) << entry;
 }
 
-TEST(DateSettings, EachDesktopsOwnProgramIsKnown)
+TEST(DateSettings, EachDesktopsOwnProgramIsKnownAndItsAbsenceTold)
 {
     World world;
-    for (const char* command :
-         {"gnome-control-center datetime", "systemsettings kcm_clock", "systemsettings5 kcm_clock",
-          "kcmshell5 clock", "cinnamon-settings calendar", "mate-time-admin", "time-admin",
-          "lxqt-admin-time"}) {
-        world.desktop.OnlyProgram = QString(command).section(' ', 0, 0).toStdString();
+    for (const char* entry : {"gnome-datetime-panel", "kcm_clock", "cinnamon-settings-calendar",
+                              "mate-time-admin", "lxqt-admin-time", "time"}) {
+        world.desktop.OnlyEntry = entry;
         StartDateSettings();
-        EXPECT_EQ(world.TakeLog(), std::string("start ") + command);
+        EXPECT_EQ(world.TakeLog(), std::string("start ") + entry);
     }
+    world.desktop.OnlyEntry = "none";
+    StartDateSettings();
+    EXPECT_EQ(
+        world.TakeLog(),
+        "message 64 Vellarno: Nel sistema non c'è un programma per impostare la data e l'ora.");
 }

@@ -13,7 +13,7 @@ class Recorder : public Platform
 public:
     std::string TempFolder;    ///< what PrivateFolder gives
     bool IsComposited = false; ///< what Compositing gives
-    std::string OnlyProgram;   ///< the one that is installed; empty: every program is
+    std::string OnlyEntry;     ///< of the desktop's programs, the one there is; empty: all are
     bool RealBoxes = false;    ///< message boxes stand until they are closed
 
     Recorder() { SetPlatform(this); }
@@ -42,13 +42,10 @@ public:
                 Note("sound " + std::to_string(id));
     }
     bool OpenAddress(const std::string& Address) override { return Note("open " + Address), true; }
-    bool StartProgram(const std::string& Program,
-                      const std::vector<std::string>& Arguments) override
+    bool StartEntry(const std::string& Entry) override
     {
-        if (!OnlyProgram.empty() && OnlyProgram != Program) return false;
-        std::string command = "start " + Program;
-        for (const auto& argument : Arguments) command += ' ' + argument;
-        return Note(command), true;
+        if (!OnlyEntry.empty() && OnlyEntry != Entry) return false;
+        return Note("start " + Entry), true;
     }
     std::string PrivateFolder() override { return TempFolder; }
     bool Compositing() override { return IsComposited; }
