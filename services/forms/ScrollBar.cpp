@@ -10,6 +10,8 @@
 #include <QStyleOptionSlider>
 #include <QWheelEvent>
 
+#include <cstdlib>
+
 namespace vellarno::forms {
 
 namespace {
@@ -50,6 +52,7 @@ ScrollBar::ScrollBar(QWidget* Parent) : ControlOf<QScrollBar>(Parent)
     setStyle(&arrows);
     setOrientation(Qt::Horizontal);
     setFocusPolicy(Qt::StrongFocus);
+    if (Parent) Parent->installEventFilter(this);
     connect(this, &QAbstractSlider::valueChanged, this, [this] {
         if (Change) Change();
     });
@@ -108,10 +111,18 @@ void ScrollBar::wheelEvent(QWheelEvent* Event)
 {
     constexpr int Notch = QWheelEvent::DefaultDeltasPerStep;
     const QPoint turn = Event->angleDelta();
-    turned += turn.y() != 0 ? turn.y() : -turn.x();
+    // To the left as upwards; a swipe is never quite straight.
+    turned += std::abs(turn.y()) < std::abs(turn.x()) ? turn.x() : turn.y();
     for (; turned >= Notch; turned -= Notch) triggerAction(SliderSingleStepSub);
     for (; turned <= -Notch; turned += Notch) triggerAction(SliderSingleStepAdd);
     Event->accept();
+}
+
+bool ScrollBar::eventFilter(QObject* Container, QEvent* Event)
+{
+    if (Event->type() != QEvent::Wheel) return QScrollBar::eventFilter(Container, Event);
+    wheelEvent(static_cast<QWheelEvent*>(Event));
+    return true;
 }
 
 }

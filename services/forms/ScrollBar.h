@@ -7,7 +7,8 @@
 
 namespace vellarno::forms {
 
-/// A horizontal scroll bar. Change comes inside every write or move that changes the value.
+/// A horizontal scroll bar. Change comes inside every write or move that changes the value. The
+/// wheel turns it wherever it is turned over the bar's container.
 class ScrollBar : public ControlOf<QScrollBar>
 {
     Q_OBJECT
@@ -19,6 +20,8 @@ public:
 
     int Value() const { return value(); }
     void SetValue(int Value) { setValue(Value); }
+
+    bool eventFilter(QObject* Container, QEvent* Event) override;
 
 protected:
     void paintEvent(QPaintEvent* Event) override;

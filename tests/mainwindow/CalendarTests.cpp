@@ -82,6 +82,25 @@ TEST_F(Calendar, OpensOnTheMonthOfItsEntryElseOnTodaysAndStepsUpToItsLimits)
         }
 }
 
+TEST_F(Calendar, TheWheelAndASwipeStepWhereverThePanelLies)
+{
+    const forms::Control* places[] = {&hscDataScroll,
+                                      &txtCalMeseAnno,
+                                      &GIORNO[1],
+                                      &GIORNO[20],
+                                      &Find<forms::Label>(form, "gsett_0"),
+                                      &picCalendario};
+    for (const forms::Control* place : places) {
+        OpenOn(3, 2021);
+        for (const QPoint back : {QPoint(0, 120), QPoint(120, 0), QPoint(120, -30)}) {
+            Wheel(*place, back);
+            EXPECT_EQ(MonthOnShow(), " FEB 2021") << place->AccessibleName() << back.x();
+            Wheel(*place, -back);
+            EXPECT_EQ(MonthOnShow(), " MAR 2021") << place->AccessibleName() << back.x();
+        }
+    }
+}
+
 TEST_F(Calendar, TodayIsMarkedBehindItsNumberInItsOwnMonthAlone)
 {
     StopClock(sys_days(2026y / 11 / 24) + 10h);

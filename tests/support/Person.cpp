@@ -103,7 +103,9 @@ void Person::Wheel(Spot At, QPoint Turn) const
 {
     QWindow* handle = subject->windowHandle();
     QWheelEvent turn(At.At, handle->mapToGlobal(At.At), {}, Turn, {}, {}, {}, false);
-    QCoreApplication::sendEvent(handle, &turn);
+    // Only an event from outside comes by what lies behind a control that left it alone.
+    QSpontaneKeyEvent::setSpontaneous(&turn);
+    qApp->notify(handle, &turn);
 }
 
 std::string Person::Focus() const
