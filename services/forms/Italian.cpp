@@ -18,14 +18,6 @@ QString Italian::translate(const char*, const char* Source, const char*, int) co
         {"&Paste", "&Incolla"},
         {"Delete", "Elimina"},
         {"Select All", "Seleziona tutto"},
-        // scroll bars
-        {"Scroll here", "Scorri fin qui"},
-        {"Left edge", "Bordo sinistro"},
-        {"Right edge", "Bordo destro"},
-        {"Page left", "Pagina a sinistra"},
-        {"Page right", "Pagina a destra"},
-        {"Scroll left", "Scorri a sinistra"},
-        {"Scroll right", "Scorri a destra"},
         // actions of a screen reader, and what they do
         {"Press", "Premi"},
         {"Triggers the action", "Esegue l'azione"},

@@ -4,8 +4,8 @@
 
 namespace vellarno::forms {
 
-/// The toolkit's own words in the program's language, whatever the desktop's: the context menus of
-/// text boxes and scroll bars, the button of a message box, what a screen reader can do.
+/// The toolkit's own words in the program's language, whatever the desktop's: the context menu of a
+/// text box, the button of a message box, what a screen reader can do.
 class Italian : public QTranslator
 {
 public:

@@ -52,6 +52,7 @@ ScrollBar::ScrollBar(QWidget* Parent) : ControlOf<QScrollBar>(Parent)
     setStyle(&arrows);
     setOrientation(Qt::Horizontal);
     setFocusPolicy(Qt::StrongFocus);
+    setContextMenuPolicy(Qt::NoContextMenu);
     if (Parent) Parent->installEventFilter(this);
     connect(this, &QAbstractSlider::valueChanged, this, [this] {
         if (Change) Change();
@@ -90,18 +91,26 @@ void ScrollBar::paintEvent(QPaintEvent*)
     }
 }
 
+/// The toolkit looks at the other buttons too: one that is down keeps an arrow from answering, or
+/// from letting go.
 void ScrollBar::mousePressEvent(QMouseEvent* Event)
 {
+    if (Event->button() != Qt::LeftButton) return;
     for (const auto arrow : Arrows)
         if (ArrowArea(arrow).contains(Event->position().toPoint())) pressed = arrow;
-    QScrollBar::mousePressEvent(Event);
+    QMouseEvent alone(Event->type(), Event->position(), Event->globalPosition(), Qt::LeftButton,
+                      Qt::LeftButton, Event->modifiers());
+    QScrollBar::mousePressEvent(&alone);
     update();
 }
 
 void ScrollBar::mouseReleaseEvent(QMouseEvent* Event)
 {
+    if (Event->button() != Qt::LeftButton) return;
     pressed = QStyle::SC_None;
-    QScrollBar::mouseReleaseEvent(Event);
+    QMouseEvent alone(Event->type(), Event->position(), Event->globalPosition(), Qt::LeftButton,
+                      Qt::NoButton, Event->modifiers());
+    QScrollBar::mouseReleaseEvent(&alone);
     update();
 }
 
