@@ -31,6 +31,8 @@ public:
     }
 };
 
+constexpr int OuterMargin = 2;
+constexpr int InnerMargin = 1;
 constexpr qreal ArrowWidth = 4;
 constexpr qreal ArrowHeight = 8;
 
@@ -77,17 +79,20 @@ QRect ScrollBar::ArrowArea(QStyle::SubControl Arrow) const
     return style()->subControlRect(QStyle::CC_ScrollBar, &option, Arrow, this);
 }
 
-/// Two flat arrows and nothing between them: a label stands there.
+/// Two flat arrows and nothing between them: a label stands there, over the last pixel of the left
+/// one. They keep a margin, so that both show all their edges.
 void ScrollBar::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const auto arrow : Arrows) {
-        const QRectF area = ArrowArea(arrow);
+        const bool left = arrow == QStyle::SC_ScrollBarSubLine;
+        const QRectF area = ArrowArea(arrow).adjusted(left ? OuterMargin : InnerMargin, 0,
+                                                      left ? -InnerMargin : -OuterMargin, 0);
         painter.setPen(hasFocus() ? palette::Accent : palette::PanelEdge);
         painter.setBrush(pressed == arrow ? palette::BandBottom : palette::Panel);
         painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-        DrawArrow(painter, area, arrow == QStyle::SC_ScrollBarAddLine ? 1 : -1, palette::Accent);
+        DrawArrow(painter, area, left ? -1 : 1, palette::Accent);
     }
 }
 
