@@ -75,8 +75,11 @@ TEST_F(Calendar, OpensOnTheMonthOfItsEntryElseOnTodaysAndStepsUpToItsLimits)
             OpenFor(entry);
             EXPECT_EQ(MonthOnShow(), shown);
             EXPECT_EQ(Focus(), "picOption");
-            EXPECT_EQ(picCalendario.pos(), QPoint(16, entry == 0 ? 51 : 101));
+            EXPECT_EQ(picCalendario.pos(), QPoint(12, entry == 0 ? 51 : 101));
             EXPECT_EQ(shpShadow.geometry(), picCalendario.geometry().translated(5, 5));
+            for (const auto* buttons : {&cmdNowData, &cmdNowTime})
+                for (const auto& button : *buttons)
+                    EXPECT_GE(button.Left(), shpShadow.geometry().right()) << "stands clear";
             EXPECT_EQ(After(arrow), stepped);
             TakeLog();
         }
