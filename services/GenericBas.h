@@ -21,7 +21,7 @@ void PlayResSound(int Id);
 void SetAlwaysOnTop(forms::Form& Form, bool OnTop);
 
 /// The user's folder for files of a run, with a separator at its end so that a file name can be
-/// added, or the empty string if there is none that only the user can enter.
+/// added, or the empty string if the system has no temporary folder.
 std::string GetTempDirectory();
 
 /// Whether the path names something that isn't a folder. No error leaves it.

@@ -1,6 +1,7 @@
 #include "services/Platform.h"
 
 #include "services/InstanceLock.h"
+#include "services/PrivateFolder.h"
 #include "services/SoundPlayer.h"
 
 namespace vellarno {
@@ -19,7 +20,7 @@ public:
     void PlaySound(const std::string& WaveImage) override { sounds.Play(WaveImage); }
     bool OpenAddress(const std::string& Address) override { return forms::OpenAddress(Address); }
     bool StartEntry(const std::string& Entry) override { return forms::StartEntry(Entry); }
-    std::string PrivateFolder() override { return forms::PrivateFolder(); }
+    std::string PrivateFolder() override { return vellarno::PrivateFolder(); }
     bool Compositing() override { return forms::Compositing(); }
     bool BecomeOnlyInstance() override { return instance.Take(PrivateFolder()); }
 

@@ -23,7 +23,8 @@ public:
     /// Starts a program of the desktop by the name of its entry; it then lives by itself.
     /// @return false if the entry or its program isn't there.
     virtual bool StartEntry(const std::string& Entry) = 0;
-    /// A folder that only the user can enter, without a separator at its end, or nothing.
+    /// A folder that only the user can enter, without a separator at its end, one in which no file
+    /// can be, or nothing where the system has no temporary folder.
     virtual std::string PrivateFolder() = 0;
     virtual bool Compositing() = 0;
     /// True for one process of the user at a time; ends with the process, however it ends.

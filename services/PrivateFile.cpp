@@ -6,6 +6,17 @@
 
 namespace vellarno {
 
+namespace {
+
+bool writtenInWorkingFolder = false;
+
+bool InWorkingFolder(const std::string& Path)
+{
+    return Path.find('/') == std::string::npos;
+}
+
+}
+
 bool WritePrivateFile(const std::string& Path, const std::string& Bytes)
 {
     // O_NONBLOCK: a pipe laid at the path must not hold the program up.
@@ -15,6 +26,7 @@ bool WritePrivateFile(const std::string& Path, const std::string& Bytes)
     struct stat status = {};
     const bool ordinary =
         fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink == 1;
+    if (ordinary && InWorkingFolder(Path)) writtenInWorkingFolder = true;
     const bool written =
         ordinary && ftruncate(file, 0) == 0 &&
         write(file, Bytes.data(), Bytes.size()) == static_cast<ssize_t>(Bytes.size());
@@ -23,6 +35,7 @@ bool WritePrivateFile(const std::string& Path, const std::string& Bytes)
 
 void DeletePrivateFile(const std::string& Path)
 {
+    if (InWorkingFolder(Path) && !writtenInWorkingFolder) return;
     struct stat status = {};
     if (lstat(Path.c_str(), &status) == 0 && S_ISREG(status.st_mode)) unlink(Path.c_str());
 }

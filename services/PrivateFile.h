@@ -13,6 +13,7 @@ inline constexpr const char* HelpFileName = "HelpVellarno.htm";
 bool WritePrivateFile(const std::string& Path, const std::string& Bytes);
 
 /// Deletes an ordinary file; anything else of that name, and a file that can't go, is left alone.
+/// So is a file of the working folder that this run has not written: it may be anyone's.
 void DeletePrivateFile(const std::string& Path);
 
 }

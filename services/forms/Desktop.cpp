@@ -5,8 +5,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
-#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
@@ -140,18 +140,6 @@ bool Compositing()
     std::free(atom);
     std::free(owner);
     return composed;
-}
-
-std::string PrivateFolder()
-{
-    const QString runtime =
-        Quietly([] { return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation); });
-    if (runtime.isEmpty()) return {};
-    const QString folder = runtime + QLatin1String("/vellarno");
-    // Made first, looked at then: another start may make it in the same moment.
-    QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    const QFileInfo made(folder);
-    return made.isDir() && !made.isSymLink() ? folder.toStdString() : std::string();
 }
 
 std::string ReadResource(const std::string& Path)

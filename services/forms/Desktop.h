@@ -47,9 +47,6 @@ bool OnX11();
 /// The program's connection to that server, or nothing.
 xcb_connection_t* X11Connection();
 
-/// A folder for files of this run that only the user can enter, or the empty string.
-std::string PrivateFolder();
-
 /// The bytes of a resource, or none if there is no such resource.
 std::string ReadResource(const std::string& Path);
 

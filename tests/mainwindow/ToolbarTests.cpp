@@ -105,6 +105,23 @@ TEST_F(Toolbar, WhatStandsInTheWayOfTheHelpPageIsLeftAloneAndTold)
     EXPECT_EQ(fs::file_size(victim), 8U);
 }
 
+TEST_F(Toolbar, InTheWorkingFolderNoPageIsDeletedButItsOwn)
+{
+    const fs::path before = fs::current_path();
+    fs::current_path(desktop.TempFolder);
+    std::ofstream(page) << "precious";
+    desktop.TempFolder.clear();
+    form.Close();
+    EXPECT_EQ(fs::file_size(page), 8U);
+    MainWindow another;
+    another.desktop.TempFolder.clear();
+    another.Click(another.picToolBarra[HelpIcon]);
+    EXPECT_EQ(another.TakeLog(), "open HelpVellarno.htm");
+    another.form.Close();
+    EXPECT_FALSE(fs::exists(page));
+    fs::current_path(before);
+}
+
 TEST_F(Toolbar, NothingMoreOpensInAWindowThatIsClosedMeanwhile)
 {
     Soon([&] { form.Close(); });

@@ -89,17 +89,18 @@ class ProgramTest(unittest.TestCase):
         wait(lambda: played.exists() and played.read_bytes() == expected, "the sound")
 
     def test_one_of_four_opens_and_a_killed_one_locks_nobody_out(self):
-        first = self.start()
-        programs = [first, *(self.start(beside=first) for _ in range(3))]
-        shown = lambda title: [program for program in programs if program.windows(title)]
-        wait(lambda: len(shown(MAIN) + shown(MESSAGE)) == 4, "four windows")
-        opened, = shown(MAIN)
-        for program in shown(MESSAGE):
-            program.press("Return", title=MESSAGE)
-            self.assert_ended(program)
-        opened.process.kill()
-        opened.process.wait()
-        self.start(beside=first).window()
+        for session in ({}, {"XDG_RUNTIME_DIR": None}):
+            first = self.start(**session)
+            programs = [first, *(self.start(beside=first, **session) for _ in range(3))]
+            shown = lambda title: [program for program in programs if program.windows(title)]
+            wait(lambda: len(shown(MAIN) + shown(MESSAGE)) == 4, "four windows")
+            opened, = shown(MAIN)
+            for program in shown(MESSAGE):
+                program.press("Return", title=MESSAGE)
+                self.assert_ended(program)
+            opened.process.kill()
+            opened.process.wait()
+            self.start(beside=first, **session).window()
 
     def test_a_lost_display_is_told_and_leaves_no_page(self):
         server = self.enterContext(subprocess.Popen(

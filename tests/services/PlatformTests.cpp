@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace vellarno::test;
 namespace fs = std::filesystem;
@@ -15,16 +16,49 @@ struct RuntimeFolder : testing::Test
 {
     const QTemporaryDir made;
     const fs::path runtime = made.path().toStdString();
-    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+    const QByteArray before = qgetenv("XDG_RUNTIME_DIR"), temporary = qgetenv("TMPDIR");
 
-    RuntimeFolder() { qputenv("XDG_RUNTIME_DIR", runtime.c_str()); }
-    ~RuntimeFolder() override { qputenv("XDG_RUNTIME_DIR", before); }
+    RuntimeFolder()
+    {
+        for (const char* name : {"XDG_RUNTIME_DIR", "TMPDIR"}) qputenv(name, runtime.c_str());
+    }
+    ~RuntimeFolder() override
+    {
+        qputenv("XDG_RUNTIME_DIR", before);
+        temporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
+    }
 };
 
 TEST_F(RuntimeFolder, HoldsOneThatOnlyTheUserCanEnter)
 {
     for (int run = 0; run < 2; ++run) EXPECT_EQ(GetTempDirectory(), runtime / "vellarno/");
     EXPECT_EQ(fs::status(runtime / "vellarno").permissions(), fs::perms::owner_all);
+}
+
+TEST_F(RuntimeFolder, IsReplacedInTheTemporaryFolderByARealOneOfTheUsersOwn)
+{
+    const fs::path usual = runtime / "vellarno", real = runtime / "real",
+                   instead = runtime / ("vellarno-" + std::to_string(geteuid()));
+    const std::function<void(const fs::path&)> obstacles[] = {
+        [](const fs::path& at) { std::ofstream(at) << "file"; },
+        [](const fs::path& at) { mkfifo(at.c_str(), S_IRWXU); },
+        [&](const fs::path& at) { fs::create_directory_symlink(real, at); },
+        [](const fs::path& at) { fs::create_directory(at); }, // open to others
+        [](const fs::path& at) { mkdir(at.c_str(), S_IRWXU), chown(at.c_str(), 1, 1); }};
+    mkdir(real.c_str(), S_IRWXU);
+    for (const auto& lay : obstacles) {
+        if (&lay == std::end(obstacles) - 1 && geteuid() != 0) break; // only root gives away
+        lay(usual);
+        EXPECT_EQ(GetTempDirectory(), instead / "") << &lay - obstacles;
+        EXPECT_EQ(fs::status(instead).permissions(), fs::perms::owner_all);
+        fs::remove(instead);
+        lay(instead);
+        EXPECT_EQ(GetTempDirectory(), "/dev/null/") << &lay - obstacles;
+        EXPECT_FALSE(WritePrivateFile(GetTempDirectory() + HelpFileName, "page"));
+        for (const auto& path : {usual, instead}) fs::remove(path);
+    }
+    qputenv("XDG_RUNTIME_DIR", "/proc");
+    EXPECT_EQ(GetTempDirectory(), instead / "");
 }
 
 TEST_F(RuntimeFolder, OnlyAnOrdinaryFileIsWrittenOverAndOnlyForTheUser)
