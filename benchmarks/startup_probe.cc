@@ -20,9 +20,11 @@
 #include <memory>
 #include <optional>
 #include <poll.h>
+#include <spawn.h>
 #include <stdexcept>
 #include <string>
 #include <sys/wait.h>
+#include <system_error>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -211,12 +213,10 @@ private:
 class Child
 {
 public:
-    explicit Child(char** Command) : id(fork())
+    explicit Child(char** Command)
     {
-        if (id != 0) return;
-        execvp(Command[0], Command);
-        std::perror(Command[0]);
-        _exit(127);
+        if (const int error = posix_spawnp(&id, Command[0], nullptr, nullptr, Command, environ))
+            throw std::system_error(error, std::generic_category(), "not started");
     }
     ~Child()
     {
@@ -243,7 +243,7 @@ public:
     }
 
 private:
-    pid_t id;
+    pid_t id = 0; ///< of a program that runs: without one there is no such object
 };
 
 }
