@@ -33,8 +33,12 @@ install(FILES ${packaging}/org.example.vellarno.metainfo.xml
 install(FILES resources/pictures/vellarno.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${packaging}/debian/copyright DESTINATION ${documents})
-configure_file(${packaging}/vellarno.1.in ${packaged}/vellarno.1 @ONLY)
-install_compressed(${packaged}/vellarno.1 vellarno.1 ${CMAKE_INSTALL_MANDIR}/man1)
+# The manual in the language that systems fall back to, and in the program's own.
+foreach(section man1 it/man1)
+  configure_file(${packaging}/man/${section}/vellarno.1.in ${packaged}/${section}/vellarno.1 @ONLY)
+  install_compressed(${packaged}/${section}/vellarno.1 ${section}/vellarno.1
+                     ${CMAKE_INSTALL_MANDIR}/${section})
+endforeach()
 install_compressed(${packaging}/debian/changelog changelog ${documents})
 
 set(CPACK_GENERATOR DEB)

@@ -26,7 +26,7 @@ QString Italian::translate(const char*, const char* Source, const char*, int) co
         {"Decrease", "Diminuisci"},
         {"Decrease the value", "Diminuisce il valore"},
         {"SetFocus", "Attiva"},
-        {"Sets the focus", "Porta qui la tastiera"},
+        {"Sets the focus", "Porta qui il focus"},
         {"Toggle", "Cambia stato"},
         {"Toggles the state", "Cambia lo stato"},
         {"ShowMenu", "Mostra menu"},
