@@ -3,7 +3,7 @@
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev librsvg2-bin libcanberra-dev
   libfontconfig-dev libxcb1-dev fonts-liberation"
 DISPLAY_PACKAGES="xvfb openbox xdotool imagemagick"
-TEST_PACKAGES="libgtest-dev tidy binutils python3 x11-utils
+TEST_PACKAGES="libgtest-dev tidy binutils python3 x11-utils qt6-wayland
   at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi"
 BENCH_PACKAGES="libbenchmark-dev"
 PACKAGE_PACKAGES="dpkg-dev desktop-file-utils appstream lintian"

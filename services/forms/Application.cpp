@@ -41,7 +41,10 @@ public:
     PreferX11()
     {
         if (chosen) return;
-        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+        // Wayland is found in the session's folder; its library tells the terminal in English where
+        // there is none.
+        const bool session = qgetenv("XDG_RUNTIME_DIR").startsWith('/');
+        qputenv("QT_QPA_PLATFORM", session ? "xcb;wayland" : "xcb");
         // Two threads in the loader and the memory map at once take longer than one after the
         // other: what X11 needs is loaded before the fonts are read beside it.
         if (qEnvironmentVariableIsSet("DISPLAY"))

@@ -117,7 +117,8 @@ class ProgramTest(unittest.TestCase):
 
     def test_without_a_display_it_says_so(self):
         for address in (None, ":987"):
-            self.assert_ended(self.start(DISPLAY=address), 1, NO_DISPLAY)
+            for session in ({}, {"XDG_RUNTIME_DIR": None}):
+                self.assert_ended(self.start(DISPLAY=address, **session), 1, NO_DISPLAY)
 
     def test_it_works_and_ends_in_order_in_surroundings_of_all_kinds(self):
         folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
