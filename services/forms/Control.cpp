@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -117,7 +118,14 @@ void Control::SetMenu(const std::vector<MenuEntry>& Entries)
         QObject::connect(action, &QAction::triggered, &self, entry.Click);
         self.addAction(action);
     }
-    if (ClickedByMouse()) self.setContextMenuPolicy(Qt::ActionsContextMenu);
+    if (!ClickedByMouse()) return; // an entry field opens its own
+    self.setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(&self, &QWidget::customContextMenuRequested, &self, [this](const QPoint& at) {
+        auto* menu = new QMenu(&self);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addActions(self.actions());
+        menu->popup(self.mapToGlobal(at));
+    });
 }
 
 void Control::DrawFocusMark(QPainter& Painter) const
@@ -142,8 +150,17 @@ Control::KeyFate Control::FilterKey(const QKeyEvent& Event, short& KeyAscii)
     return KeyAscii == 0 ? KeyFate::Unchanged : FilterCharacter(KeyAscii);
 }
 
+/// The second press of a double click whose first one made place for this control is nobody's.
+bool Control::BelongsElsewhere(const QEvent& Event) const
+{
+    static const Control* pressed = nullptr;
+    if (Event.type() == QEvent::MouseButtonPress) pressed = this;
+    return Event.type() == QEvent::MouseButtonDblClick && pressed != this;
+}
+
 bool Control::BeforeEvent(QEvent& Event)
 {
+    if (BelongsElsewhere(Event)) return true;
     // A key that a control left alone comes by its containers as well.
     if (Event.type() != QEvent::KeyPress || filtered || self.window()->focusWidget() != &self)
         return false;

@@ -132,6 +132,7 @@ protected:
     Form* ParentForm() const;
 
 private:
+    bool BelongsElsewhere(const QEvent& Event) const;
     void UpdatePointer();
     void TellMouse(const QMouseEvent& Event);
 

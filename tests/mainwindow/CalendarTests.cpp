@@ -166,8 +166,9 @@ TEST_F(Calendar, ADayPickedIsWrittenIntoItsEntryWithTheMonthOnShow)
     Click(cmdCalcola);
     OpenFor(1);
     EXPECT_FALSE(HasResults()) << "opening clears them";
-    Click(GIORNO[22]);
+    DoubleClick(GIORNO[22]);
     EXPECT_EQ(Dates(), "05/03/2021 19/04/2021");
+    EXPECT_EQ(Focus(), "picOption") << "what lay under the day was not clicked";
 }
 
 TEST_F(Calendar, KeysMoveAMarkOverTheDaysAndTakeOne)
