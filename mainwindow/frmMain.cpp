@@ -6,7 +6,7 @@
 #include "services/App.h"
 #include "services/GenericBas.h"
 #include "services/Platform.h"
-#include "services/PrivateFile.h"
+#include "services/platform/PrivateFile.h"
 #include "services/forms/Application.h"
 #include "ui_frmMain.h"
 

@@ -1,7 +1,7 @@
 #include "mainwindow/frmMain.h"
 
 #include "services/forms/Accessibility.h"
-#include "services/forms/Desktop.h"
+#include "services/forms/Globals.h"
 
 namespace vellarno {
 

@@ -4,7 +4,7 @@
 #include "services/App.h"
 #include "services/GenericBas.h"
 #include "services/Platform.h"
-#include "services/PrivateFile.h"
+#include "services/platform/PrivateFile.h"
 #include "services/SystemSettings.h"
 #include "services/forms/Accessibility.h"
 #include "services/frmAbout.h"

@@ -4,7 +4,7 @@
 #include "services/GenericBas.h"
 #include "services/Trasparency.h"
 #include "services/forms/Accessibility.h"
-#include "services/forms/Desktop.h"
+#include "services/forms/Globals.h"
 #include "ui_frmMiniCalc.h"
 
 #include <array>

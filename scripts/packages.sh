@@ -1,6 +1,6 @@
 # Debian packages that the scripts need; sourced by them.
 
-BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev librsvg2-bin libcanberra-dev
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev librsvg2-bin libcanberra-dev libasound2-dev
   libfontconfig-dev libxcb1-dev fonts-liberation"
 DISPLAY_PACKAGES="xvfb openbox xdotool imagemagick"
 TEST_PACKAGES="libgtest-dev tidy binutils python3 x11-utils qt6-wayland

@@ -1,14 +1,16 @@
 #include "services/Platform.h"
 
-#include "services/InstanceLock.h"
-#include "services/PrivateFolder.h"
-#include "services/SoundPlayer.h"
+#include "services/platform/InstanceLock.h"
+#include "services/platform/Opening.h"
+#include "services/platform/PrivateFolder.h"
+#include "services/platform/SoundPlayer.h"
+#include "services/platform/X11.h"
 
 namespace vellarno {
 
 namespace {
 
-class Desktop : public Platform
+class OwnPlatform : public Platform
 {
 public:
     void Beep() override { forms::Beep(); }
@@ -18,10 +20,10 @@ public:
         forms::MsgBox(Prompt, Style, Title);
     }
     void PlaySound(const std::string& WaveImage) override { sounds.Play(WaveImage); }
-    bool OpenAddress(const std::string& Address) override { return forms::OpenAddress(Address); }
-    bool StartEntry(const std::string& Entry) override { return forms::StartEntry(Entry); }
+    bool OpenAddress(const std::string& Address) override { return vellarno::OpenAddress(Address); }
+    bool StartEntry(const std::string& Entry) override { return vellarno::StartEntry(Entry); }
     std::string PrivateFolder() override { return vellarno::PrivateFolder(); }
-    bool Compositing() override { return forms::Compositing(); }
+    bool Compositing() override { return vellarno::Compositing(); }
     bool BecomeOnlyInstance() override { return instance.Take(PrivateFolder()); }
 
 private:
@@ -36,8 +38,8 @@ Platform* replacement = nullptr;
 Platform& System()
 {
     if (replacement) return *replacement;
-    static Desktop desktop;
-    return desktop;
+    static OwnPlatform own;
+    return own;
 }
 
 void SetPlatform(Platform* Other)

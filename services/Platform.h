@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/forms/Desktop.h"
+#include "services/forms/Globals.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 #include "services/forms/Balloon.h"
 
-#include "services/forms/Desktop.h"
 #include "services/forms/Form.h"
 #include "services/forms/Look.h"
+#include "services/platform/X11.h"
 
 #include <QBitmap>
 #include <QCursor>

@@ -1,8 +1,8 @@
 #include "services/forms/Form.h"
 
 #include "services/forms/CommandButton.h"
-#include "services/forms/Frame.h"
 #include "services/forms/Look.h"
+#include "services/platform/X11.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -39,17 +39,6 @@ Qt::WindowFlags FlagsOf(FormBorder Border)
 Form::Form(FormBorder Border) : QWidget(nullptr, FlagsOf(Border)), border(Border)
 {
     setMouseTracking(true);
-}
-
-EventUnderWay::EventUnderWay(QWidget& Receiver) : form(dynamic_cast<Form*>(Receiver.window()))
-{
-    if (form) ++form->eventsUnderWay;
-}
-
-EventUnderWay::~EventUnderWay()
-{
-    if (form && --form->eventsUnderWay == 0 && form->closed && form->parentWidget())
-        form->deleteLater();
 }
 
 Form::~Form()

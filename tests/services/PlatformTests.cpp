@@ -1,5 +1,5 @@
-#include "services/InstanceLock.h"
-#include "services/PrivateFile.h"
+#include "services/platform/InstanceLock.h"
+#include "services/platform/PrivateFile.h"
 #include "services/SystemSettings.h"
 #include "tests/support/Stage.h"
 

@@ -1,10 +1,10 @@
-#include "services/forms/Frame.h"
-
-#include "services/forms/Desktop.h"
+#include "services/platform/X11.h"
 
 #include <QDeadlineTimer>
+#include <QGuiApplication>
 #include <QThread>
 #include <QWidget>
+#include <qguiapplication_platform.h>
 #include <xcb/xcb.h>
 
 #include <algorithm>
@@ -13,9 +13,16 @@
 #include <string_view>
 #include <vector>
 
-namespace vellarno::forms {
+namespace vellarno {
 
 namespace {
+
+/// Platforms without a display may have the interface, but no connection behind it.
+xcb_connection_t* Connection()
+{
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 ? x11->connection() : nullptr;
+}
 
 /// A window manager that hangs must not keep the window off the screen.
 constexpr int PatienceMilliseconds = 100;
@@ -62,9 +69,27 @@ void RequestFrameExtents(xcb_connection_t* Display, xcb_window_t Root, xcb_windo
 
 }
 
+bool OnX11()
+{
+    return Connection() != nullptr;
+}
+
+bool Compositing()
+{
+    xcb_connection_t* display = Connection();
+    if (!display) return false;
+    // Whoever composes the screen owns this selection (Extended Window Manager Hints).
+    const auto selection = Atom(display, "_NET_WM_CM_S0");
+    auto* reply = xcb_get_selection_owner_reply(
+        display, xcb_get_selection_owner(display, selection), nullptr);
+    const bool composed = reply && reply->owner != XCB_NONE;
+    std::free(reply);
+    return composed;
+}
+
 QMargins FrameMargins(QWidget& Window)
 {
-    xcb_connection_t* display = X11Connection();
+    xcb_connection_t* display = Connection();
     if (!display) return {};
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
     const xcb_atom_t request = Atom(display, "_NET_REQUEST_FRAME_EXTENTS");

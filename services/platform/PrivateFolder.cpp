@@ -1,4 +1,4 @@
-#include "services/PrivateFolder.h"
+#include "services/platform/PrivateFolder.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "services/InstanceLock.h"
+#include "services/platform/InstanceLock.h"
 
 #include <cerrno>
 #include <fcntl.h>

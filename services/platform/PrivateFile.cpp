@@ -1,4 +1,4 @@
-#include "services/PrivateFile.h"
+#include "services/platform/PrivateFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
