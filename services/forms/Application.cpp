@@ -1,13 +1,11 @@
 #include "services/forms/Application.h"
 
 #include "services/forms/Accessibility.h"
+#include "services/forms/FontsAhead.h"
 #include "services/forms/Italian.h"
 #include "services/forms/Look.h"
 
 #include <QApplication>
-#include <QFontDatabase>
-#include <QLibraryInfo>
-#include <QPluginLoader>
 #include <QSessionManager>
 #include <QSocketNotifier>
 
@@ -15,10 +13,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
-#include <fontconfig/fontconfig.h>
-#include <latch>
-#include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace vellarno::forms {
 
@@ -34,51 +30,58 @@ void NoteSignal(int)
 }
 
 /// Where the session offers both, X11: on Wayland a program can neither pin nor place its windows.
-/// The programs that this one starts make their own choice.
-class PreferX11
+/// Given as an argument, since the environment is for the programs that this one starts as well.
+class Arguments
 {
 public:
-    PreferX11()
+    Arguments(int Count, char** Given) : all(Given, Given + Count)
     {
-        if (chosen) return;
+        if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
         // Wayland is found in the session's folder; its library tells the terminal in English where
         // there is none.
         const bool session = qgetenv("XDG_RUNTIME_DIR").startsWith('/');
-        qputenv("QT_QPA_PLATFORM", session ? "xcb;wayland" : "xcb");
-        // Two threads in the loader and the memory map at once take longer than one after the
-        // other: what X11 needs is loaded before the fonts are read beside it.
-        if (qEnvironmentVariableIsSet("DISPLAY"))
-            QPluginLoader(QLibraryInfo::path(QLibraryInfo::PluginsPath) +
-                          QStringLiteral("/platforms/libqxcb.so"))
-                .load();
+        static char option[] = "-platform", both[] = "xcb;wayland", x11[] = "xcb";
+        all.insert(all.begin() + 1, {option, session ? both : x11}); // the user's own come later
+        count = static_cast<int>(all.size());
     }
-    ~PreferX11()
-    {
-        if (!chosen) qunsetenv("QT_QPA_PLATFORM");
-    }
+
+    int& Count() { return count; }
+    char** Values() { return all.data(); }
 
 private:
-    const bool chosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    std::vector<char*> all;
+    int count = static_cast<int>(all.size());
 };
-
-/// Stands in while the toolkit looks for a display: it complains of each kind in turn, also where
-/// the next one is there, and aborts after the last.
-void TellNoDisplay(QtMsgType Type, const QMessageLogContext&, const QString&)
-{
-    if (Type != QtFatalMsg) return;
-    std::fputs("Impossibile avviare il programma: nessuno schermo raggiungibile.\n", stderr);
-    std::_Exit(EXIT_FAILURE);
-}
 
 QtMessageHandler toolkitMessages = nullptr;
 
-/// The toolkit ends the program when the display is gone, and says so in English. That a language
-/// has no table of composed characters is no matter for a user.
+/// What the toolkit tells the terminal in English, and is no matter for a user: where it puts
+/// files of a session without a folder, and that a language has no table of composed characters.
+bool IsHarmless(const QString& Message)
+{
+    return Message.startsWith(QLatin1String("QStandardPaths: ")) ||
+           Message.contains(QLatin1String("compose table"));
+}
+
+/// Stands in while the toolkit looks for a display: it complains of each kind in turn, also where
+/// the next one is there, and aborts after the last. A plugin that can't be loaded is no missing
+/// screen: then its own word follows.
+void TellNoDisplay(QtMsgType Type, const QMessageLogContext&, const QString& Message)
+{
+    static bool unreachable = false;
+    unreachable = unreachable || Message.contains(QLatin1String("connect to display"));
+    if (Type != QtFatalMsg) return;
+    std::fputs("Impossibile avviare il programma: nessuno schermo raggiungibile.\n", stderr);
+    if (!unreachable) std::fprintf(stderr, "%s\n", qPrintable(Message));
+    std::_Exit(EXIT_FAILURE);
+}
+
+/// The toolkit ends the program when the display is gone, and says so in English.
 void TellLostDisplay(QtMsgType Type, const QMessageLogContext& Context, const QString& Message)
 {
     if (Message.contains(QLatin1String("connection broke")))
         std::fputs("Lo schermo non risponde più: il programma termina.\n", stderr);
-    else if (qstrcmp(Context.category, "qt.xkb.compose") != 0)
+    else if (!IsHarmless(Message))
         toolkitMessages(Type, Context, Message);
 }
 
@@ -86,41 +89,26 @@ void TellLostDisplay(QtMsgType Type, const QMessageLogContext& Context, const QS
 
 struct Application::Parts
 {
-    Parts(int& ArgumentCount, char** Arguments) : application(ArgumentCount, Arguments)
+    Parts(int Count, char** Given)
+        : arguments(Count, Given), application(arguments.Count(), arguments.Values())
     {
-        toolkitStarted.count_down();
+        fonts.ListThem();
     }
-    ~Parts() { fonts.join(); }
+    ~Parts() { fonts.Wait(); }
 
-    /// Reads the system's fonts while the display answers. Only to ask for one makes the toolkit
-    /// list them all.
-    void ListFonts()
-    {
-        FcInit();
-        toolkitStarted.wait();
-        QFontDatabase::isFixedPitch(QStringLiteral("Sans"));
-    }
-
-    std::latch toolkitStarted{1};
-    std::jthread fonts{[this] { ListFonts(); }};
+    Arguments arguments;
+    FontsAhead fonts;
     QApplication application;
     Italian italian;
     std::unique_ptr<QSocketNotifier> signals;
     std::function<void()> end;
 };
 
-Application::Application(int& ArgumentCount, char** Arguments)
+Application::Application(int ArgumentCount, char** Arguments)
 {
-    {
-        const PreferX11 choice;
-        toolkitMessages = qInstallMessageHandler(TellNoDisplay);
-        parts = std::make_unique<Parts>(ArgumentCount, Arguments);
-        qInstallMessageHandler(TellLostDisplay);
-    }
-    // On X11 all that the toolkit loads at need is in by now: a search through its further picture
-    // formats would find none that is wanted.
-    if (QGuiApplication::platformName() == QLatin1String("xcb"))
-        QCoreApplication::setLibraryPaths({});
+    toolkitMessages = qInstallMessageHandler(TellNoDisplay);
+    parts = std::make_unique<Parts>(ArgumentCount, Arguments);
+    qInstallMessageHandler(TellLostDisplay);
     QApplication::setApplicationName(QStringLiteral("vellarno"));
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(QStringLiteral("vellarno"));

@@ -9,7 +9,6 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 
 #include <utility>
 
@@ -165,13 +164,12 @@ bool Control::BeforeEvent(QEvent& Event)
     if (Event.type() != QEvent::KeyPress || filtered || self.window()->focusWidget() != &self)
         return false;
     auto& key = static_cast<QKeyEvent&>(Event);
-    const QPointer<QWidget> alive = &self;
     if (Form* form = ParentForm(); form && form->PressDialogButton(key)) return true;
     const Key pressed = KeyOf(key);
     if (KeyDown && KeyDown(pressed)) return true;
     short code = 0;
     const KeyFate fate = FilterKey(key, code);
-    if (fate == KeyFate::Swallowed || !alive) {
+    if (fate == KeyFate::Swallowed) {
         key.accept();
         return true;
     }

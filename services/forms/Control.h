@@ -1,7 +1,8 @@
 #pragma once
 
+#include "services/forms/EventUnderWay.h"
+
 #include <QEvent>
-#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -69,9 +70,6 @@ public:
     {
         self.setGeometry(Left, Top, Width, Height);
     }
-    /// Above, or below, all that shares its container.
-    void BringToFront() { self.raise(); }
-    void SendToBack() { self.lower(); }
     /// Moves the control, place and all, into another container.
     void SetContainer(Control& Container) { self.setParent(&Container.self); }
 
@@ -142,20 +140,6 @@ private:
     bool filtered = false; ///< the key under way has passed the filter already
     bool again = false;    ///< the button is down for the second time of a double click
     friend class Form;
-};
-
-/// An event of a form or of one of its controls on its way. A form that closes meanwhile, as its
-/// handlers may serve other events, is destroyed once the last of them has ended.
-class EventUnderWay
-{
-public:
-    explicit EventUnderWay(QWidget& Receiver);
-    ~EventUnderWay();
-    EventUnderWay(const EventUnderWay&) = delete;
-    EventUnderWay& operator=(const EventUnderWay&) = delete;
-
-private:
-    const QPointer<Form> form;
 };
 
 /// Joins the common part of all controls to the Qt widget that does the work.

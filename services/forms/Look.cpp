@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPixmapCache>
 #include <QProxyStyle>
+#include <QScrollBar>
 #include <QToolTip>
 
 namespace vellarno::forms {
@@ -74,6 +75,13 @@ public:
     {
         Colors = ToolkitPalette();
         Colors.setResolveMask(0);
+    }
+    /// The arrows of a scroll bar are as wide as it is high: no bare track shows beside its label.
+    int pixelMetric(PixelMetric Which, const QStyleOption* Option,
+                    const QWidget* Widget) const override
+    {
+        const bool arrows = Which == PM_ScrollBarExtent && qobject_cast<const QScrollBar*>(Widget);
+        return arrows ? Widget->height() : QProxyStyle::pixelMetric(Which, Option, Widget);
     }
     int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
                   QStyleHintReturn* Return) const override

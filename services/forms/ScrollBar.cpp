@@ -1,11 +1,10 @@
 #include "services/forms/ScrollBar.h"
 
 #include "services/forms/Look.h"
-#include <QKeyEvent>
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QWheelEvent>
@@ -17,19 +16,6 @@ namespace vellarno::forms {
 namespace {
 
 constexpr auto Arrows = {QStyle::SC_ScrollBarSubLine, QStyle::SC_ScrollBarAddLine};
-
-/// The arrows are as wide as the bar is high, so that no bare track shows beside the label.
-class SquareArrows : public QProxyStyle
-{
-public:
-    int pixelMetric(PixelMetric Which, const QStyleOption* Option,
-                    const QWidget* Widget) const override
-    {
-        return Which == PM_ScrollBarExtent && Widget
-                   ? Widget->height()
-                   : QProxyStyle::pixelMetric(Which, Option, Widget);
-    }
-};
 
 constexpr int OuterMargin = 2;
 constexpr int InnerMargin = 1;
@@ -50,8 +36,6 @@ void DrawArrow(QPainter& Painter, const QRectF& Area, qreal Direction, const QCo
 
 ScrollBar::ScrollBar(QWidget* Parent) : ControlOf<QScrollBar>(Parent)
 {
-    static SquareArrows arrows;
-    setStyle(&arrows);
     setOrientation(Qt::Horizontal);
     setFocusPolicy(Qt::StrongFocus);
     setContextMenuPolicy(Qt::NoContextMenu);

@@ -13,11 +13,18 @@ namespace vellarno::forms {
 
 namespace {
 
-// A caret that nobody moves stays lit: each blink would wake the processor twice a second for
-// as long as the window stands open. Other toolkits wait as long.
+/// How long a caret blinks that nobody moves. Other toolkits wait as long.
 constexpr int BlinkingMilliseconds = 10'000;
-constexpr int DesktopFlashTime = -1;
-constexpr int SteadyFlashTime = 0;
+
+/// A caret that rests stays lit: each blink would wake the processor twice a second for as long as
+/// the window stands open. The toolkit has one flash time for the whole program.
+void LetCaretBlink(bool On)
+{
+    constexpr int asTheDesktopHasIt = -1, never = 0;
+    QStyleHints& hints = *QGuiApplication::styleHints();
+    if ((hints.cursorFlashTime() != never) != On)
+        hints.setCursorFlashTime(On ? asTheDesktopHasIt : never);
+}
 
 /// A click that brings the window back follows its return at once, nobody else's click does.
 constexpr int ComebackMilliseconds = 400;
@@ -82,12 +89,12 @@ void TextBox::timerEvent(QTimerEvent* Event)
 {
     if (Event->timerId() != caretRest.timerId()) return QLineEdit::timerEvent(Event);
     caretRest.stop();
-    QGuiApplication::styleHints()->setCursorFlashTime(SteadyFlashTime);
+    LetCaretBlink(false);
 }
 
 void TextBox::BlinkForAWhile()
 {
-    QGuiApplication::styleHints()->setCursorFlashTime(DesktopFlashTime);
+    LetCaretBlink(true);
     caretRest.start(BlinkingMilliseconds, this);
 }
 

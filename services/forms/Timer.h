@@ -11,16 +11,14 @@ class Timer
 public:
     std::function<void()> Tick;
 
-    /// @param Milliseconds  between two ticks; the first comes after one interval.
-    void Start(int Milliseconds)
+    Timer()
     {
         QObject::connect(&timer, &QTimer::timeout, &timer, [this] {
             if (Tick) Tick();
         });
-        timer.start(Milliseconds);
     }
-    int Interval() const { return timer.interval(); }
-    bool Enabled() const { return timer.isActive(); }
+    /// @param Milliseconds  between two ticks; the first comes after one interval.
+    void Start(int Milliseconds) { timer.start(Milliseconds); }
 
 private:
     QTimer timer;
