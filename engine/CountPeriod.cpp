@@ -10,10 +10,6 @@ namespace vellarno {
 
 namespace {
 
-/// The years that the program takes, and the one into which their last day rounds up.
-constexpr int FirstYear = 1000;
-constexpr int LastYear = 2101;
-
 /// True unless the weekday alone makes the day free.
 bool IsWeekdayOfWork(DayNumber Day, bool SaturdayIsHoliday)
 {
@@ -37,8 +33,9 @@ int HolidaysOfYear(int Year, bool SaturdayIsHoliday, DayNumber End = LastDate + 
     return Count;
 }
 
-/// For each year, the holidays since the beginning of FirstYear.
-using YearTotals = std::array<int, LastYear - FirstYear + 1>;
+/// For each year, and for the one into which the last day rounds up, the holidays from the beginning
+/// of FirstYear to its own.
+using YearTotals = std::array<int, LastYear + 1 - FirstYear + 1>;
 
 YearTotals SumYears(bool SaturdayIsHoliday)
 {
@@ -54,7 +51,7 @@ int HolidaysBefore(DayNumber End, bool SaturdayIsHoliday)
 {
     static const std::array<YearTotals, 2> Totals{SumYears(false), SumYears(true)};
     const int EndYear = Year(End);
-    const int Known = std::clamp(EndYear, FirstYear, LastYear);
+    const int Known = std::clamp(EndYear, FirstYear, LastYear + 1);
     int Count = Totals[SaturdayIsHoliday ? 1 : 0][static_cast<std::size_t>(Known - FirstYear)] +
                 HolidaysOfYear(EndYear, SaturdayIsHoliday, End);
     for (int i = Known; i < EndYear; ++i) Count += HolidaysOfYear(i, SaturdayIsHoliday);

@@ -17,6 +17,10 @@ using DayNumber = int;
 constexpr DayNumber FirstDate = -657434; ///< 01/01/0100
 constexpr DayNumber LastDate = 2958465;  ///< 31/12/9999
 
+/// The years of dates that are compared and of months that the calendar shows.
+constexpr int FirstYear = 1000;
+constexpr int LastYear = 2100;
+
 /// The day at 00:00:00. Month and day may lie outside their range and carry over: day 0 is the last
 /// day of the month before, month 13 the next January.
 /// @param Year  0 to 29 stand for 2000 to 2029, 30 to 99 for 1930 to 1999; else literal, to 9999.

@@ -18,7 +18,7 @@ constexpr std::array<DayOfYear, 10> FixedHolidays{
 
 /// Day number of Easter Sunday (Gregorian, proleptic before 1583), 0 for a year outside 0 to 9999.
 /// Anonymous Gregorian computus, as given by Meeus, Astronomical Algorithms, chapter 8.
-/// @param Year  1000 to 2100 in this program; below 100 read as by DateSerial.
+/// @param Year  below 100 read as by DateSerial.
 int EasterDate(int Year);
 
 /// True for a Sunday, a fixed holiday or Easter Monday.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/DateTime.h"
 #include "services/SegmentedField.h"
 
 #include <array>
@@ -11,10 +12,10 @@ namespace vellarno {
 inline constexpr std::array<Segment, 6> DateSegments{{
     {31, 2, 1, true},
     {12, 2, 2, true},
-    {2100, 4, 3},
+    {LastYear, 4, 3},
     {31, 2, 4, true},
     {12, 2, 5, true},
-    {2100, 4, Segment::End},
+    {LastYear, 4, Segment::End},
 }};
 
 /// Hours, minutes and seconds of the start, then of the end. Zero is a value like any other.

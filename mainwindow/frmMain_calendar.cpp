@@ -14,8 +14,6 @@ namespace vellarno {
 
 namespace {
 
-constexpr int FirstYear = 1000;
-constexpr int LastYear = 2100;
 constexpr int FirstSteppedYear = 1900; ///< stepping back goes no further
 constexpr int ShadowOffset = 5;
 /// Values of the scroll bar that lead into the year before and the year after.

@@ -1,5 +1,6 @@
 #include "mainwindow/frmMain.h"
 
+#include "engine/DateTime.h"
 #include "engine/Text.h"
 #include "services/App.h"
 #include "services/Platform.h"
@@ -7,8 +8,6 @@
 namespace vellarno {
 
 namespace {
-
-constexpr double FirstYear = 1000;
 
 struct DateGroup
 {
@@ -35,7 +34,7 @@ bool frmMain::ValidateDates()
             Refuse(name, " è stata immessa una data non valida!");
             return false;
         }
-        if (CDbl(year).value_or(0) < FirstYear) {
+        if (CInt(year).value_or(0) < FirstYear) {
             Refuse(name, " è stata immesso un anno non valido!");
             return false;
         }
