@@ -2,7 +2,6 @@
 
 #include "engine/Holidays.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdlib>
 
@@ -33,8 +32,8 @@ int HolidaysOfYear(int Year, bool SaturdayIsHoliday, DayNumber End = LastDate + 
     return Count;
 }
 
-/// For each year, and for the one into which the last day rounds up, the holidays from the beginning
-/// of FirstYear to its own.
+/// For each year, and for the one into which the last day rounds up, the holidays from the
+/// beginning of FirstYear to its own.
 using YearTotals = std::array<int, LastYear + 1 - FirstYear + 1>;
 
 YearTotals SumYears(bool SaturdayIsHoliday)
@@ -46,17 +45,13 @@ YearTotals SumYears(bool SaturdayIsHoliday)
     return Totals;
 }
 
-/// Holidays from the beginning of FirstYear to the day before End, negative if End lies earlier.
+/// Holidays from the beginning of FirstYear to the day before End.
 int HolidaysBefore(DayNumber End, bool SaturdayIsHoliday)
 {
     static const std::array<YearTotals, 2> Totals{SumYears(false), SumYears(true)};
     const int EndYear = Year(End);
-    const int Known = std::clamp(EndYear, FirstYear, LastYear + 1);
-    int Count = Totals[SaturdayIsHoliday ? 1 : 0][static_cast<std::size_t>(Known - FirstYear)] +
-                HolidaysOfYear(EndYear, SaturdayIsHoliday, End);
-    for (int i = Known; i < EndYear; ++i) Count += HolidaysOfYear(i, SaturdayIsHoliday);
-    for (int i = EndYear; i < Known; ++i) Count -= HolidaysOfYear(i, SaturdayIsHoliday);
-    return Count;
+    return Totals[SaturdayIsHoliday ? 1 : 0].at(static_cast<std::size_t>(EndYear - FirstYear)) +
+           HolidaysOfYear(EndYear, SaturdayIsHoliday, End);
 }
 
 }

@@ -18,6 +18,7 @@ struct PeriodFigures
 
 /// Counts as many days as FromDay and ToDay lie apart, from FromDay on upward: the last day isn't
 /// counted, and where ToDay is the earlier one the days counted still begin with FromDay.
+/// @param FromDay  like the last day counted, from FirstYear to the year after LastYear.
 /// @param SaturdayIsHoliday  Saturdays are no working days.
 PeriodFigures CountPeriod(DayNumber FromDay, DayNumber ToDay, bool SaturdayIsHoliday);
 
