@@ -1,7 +1,6 @@
 #include "engine/CalcDates.h"
 
 #include "engine/CountPeriod.h"
-#include "engine/DateTime.h"
 #include "engine/Text.h"
 
 #include <algorithm>
@@ -16,7 +15,7 @@ constexpr int LongPeriod = 20000;
 
 }
 
-DateFigures DateDifference(double StartDate, double EndDate)
+DateFigures DateDifference(DateValue StartDate, DateValue EndDate)
 {
     const int Y1 = Year(StartDate);
     const int M1 = Month(StartDate);
@@ -38,7 +37,7 @@ DateFigures DateDifference(double StartDate, double EndDate)
             .TotalWeeks = static_cast<int>(std::abs(DateDiff("ww", EndDate, StartDate, 2)))};
 }
 
-void CalcDates(double StartDate, double EndDate, bool SaturdayIsHoliday, ResultLabels& Labels)
+void CalcDates(DateValue StartDate, DateValue EndDate, bool SaturdayIsHoliday, ResultLabels& Labels)
 {
     const DateFigures Elapsed = DateDifference(StartDate, EndDate);
     if (Elapsed.TotalDays > LongPeriod) Labels.SetHourglass(true);

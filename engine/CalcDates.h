@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/DateTime.h"
 #include "engine/ResultLabels.h"
 
 namespace vellarno {
@@ -17,11 +18,12 @@ struct DateFigures
 };
 
 /// @param EndDate  not on a day before that of StartDate. Times of day count in nothing.
-DateFigures DateDifference(double StartDate, double EndDate);
+DateFigures DateDifference(DateValue StartDate, DateValue EndDate);
 
 /// Writes the figures of the distance and of CountPeriod, for which both ends are rounded to day
 /// numbers. A long period shows the hourglass meanwhile.
 /// @param SaturdayIsHoliday  Saturdays are no working days.
-void CalcDates(double StartDate, double EndDate, bool SaturdayIsHoliday, ResultLabels& Labels);
+void CalcDates(DateValue StartDate, DateValue EndDate, bool SaturdayIsHoliday,
+               ResultLabels& Labels);
 
 }

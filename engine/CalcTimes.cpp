@@ -1,16 +1,14 @@
 #include "engine/CalcTimes.h"
 
-#include "engine/DateTime.h"
 #include "engine/Text.h"
 
-#include <cmath>
 #include <cstdlib>
 
 namespace vellarno {
 
-TimeFigures TimeDifference(double StartDate, double EndDate)
+TimeFigures TimeDifference(DateValue StartDate, DateValue EndDate)
 {
-    const double Elapsed = EndDate - StartDate;
+    const DateValue Elapsed = EndDate - StartDate;
     const std::int64_t Seconds = std::abs(DateDiff("s", EndDate, StartDate));
     return {.Hours = Hour(Elapsed),
             .Minutes = Minute(Elapsed),
@@ -20,10 +18,10 @@ TimeFigures TimeDifference(double StartDate, double EndDate)
             .TotalSeconds = Seconds};
 }
 
-void CalcTimes(double StartDate, double EndDate, std::optional<double> EndTimeOfDay,
+void CalcTimes(DateValue StartDate, DateValue EndDate, std::optional<DateValue> EndTimeOfDay,
                ResultLabels& Labels)
 {
-    if (EndTimeOfDay && EndDate < StartDate) EndDate = std::floor(StartDate) + 1 + *EndTimeOfDay;
+    if (EndTimeOfDay && EndDate < StartDate) EndDate = Int(StartDate) + 1 + *EndTimeOfDay;
     const TimeFigures Figures = TimeDifference(StartDate, EndDate);
 
     Labels.SetDati(3, Format(Figures.Hours, "0,0"));

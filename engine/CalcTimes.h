@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/DateTime.h"
 #include "engine/ResultLabels.h"
 
 #include <cstdint>
@@ -20,12 +21,12 @@ struct TimeFigures
 };
 
 /// @param EndDate  not before StartDate.
-TimeFigures TimeDifference(double StartDate, double EndDate);
+TimeFigures TimeDifference(DateValue StartDate, DateValue EndDate);
 
 /// Writes the figures of the distance from StartDate to EndDate.
 /// @param EndTimeOfDay  given where two times of one day are compared: an end before the start then
 ///                      lies at this time of the day after the start.
-void CalcTimes(double StartDate, double EndDate, std::optional<double> EndTimeOfDay,
+void CalcTimes(DateValue StartDate, DateValue EndDate, std::optional<DateValue> EndTimeOfDay,
                ResultLabels& Labels);
 
 }

@@ -1,8 +1,5 @@
 #include "engine/Clock.h"
 
-#include "engine/DateTime.h"
-
-#include <cmath>
 #include <ctime>
 #include <utility>
 
@@ -10,7 +7,7 @@ namespace vellarno {
 
 namespace {
 
-double SystemNow()
+DateValue SystemNow()
 {
     const std::time_t Seconds = std::time(nullptr);
     std::tm Local{};
@@ -22,25 +19,25 @@ double SystemNow()
            TimeSerial(Local.tm_hour, Local.tm_min, Local.tm_sec);
 }
 
-std::function<double()>& CurrentClock()
+std::function<DateValue()>& CurrentClock()
 {
-    static std::function<double()> Clock = SystemNow;
+    static std::function<DateValue()> Clock = SystemNow;
     return Clock;
 }
 
 }
 
-double Now()
+DateValue Now()
 {
     return CurrentClock()();
 }
 
-double Date()
+DayNumber Date()
 {
-    return std::floor(Now());
+    return Int(Now());
 }
 
-void SetClock(std::function<double()> Clock)
+void SetClock(std::function<DateValue()> Clock)
 {
     CurrentClock() = Clock ? std::move(Clock) : SystemNow;
 }

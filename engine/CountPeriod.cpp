@@ -26,7 +26,7 @@ int HolidaysOfYear(int Year, bool SaturdayIsHoliday, DayNumber End = LastDate + 
     const DayNumber Monday = EasterDate(Year) + 1;
     int Count = Counts(Monday) ? 1 : 0;
     for (const DayOfYear& Each : FixedHolidays) {
-        const auto Holiday = static_cast<DayNumber>(DateSerial(Year, Each.Month, Each.Day));
+        const DayNumber Holiday = DateSerial(Year, Each.Month, Each.Day);
         if (Holiday != Monday && Counts(Holiday)) ++Count;
     }
     return Count;

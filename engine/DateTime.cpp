@@ -4,6 +4,8 @@
 #include <array>
 #include <chrono>
 #include <cmath>
+#include <stdexcept>
+#include <string>
 
 namespace vellarno {
 
@@ -14,14 +16,9 @@ using namespace std::chrono;
 constexpr sys_days Epoch{1899y / December / 30};
 constexpr int SecondsPerDay = 86400;
 
-DayNumber DayOf(double x)
+year_month_day CivilDate(DateValue x)
 {
-    return static_cast<DayNumber>(std::floor(x));
-}
-
-year_month_day CivilDate(double x)
-{
-    return Epoch + days{DayOf(x)};
+    return Epoch + days{Int(x)};
 }
 
 DayNumber Serial(sys_days Day)
@@ -29,23 +26,23 @@ DayNumber Serial(sys_days Day)
     return static_cast<DayNumber>((Day - Epoch).count());
 }
 
-int ClockSecond(double x)
+int ClockSecond(DateValue x)
 {
     const auto Seconds = static_cast<int>(std::lround((x - std::floor(x)) * SecondsPerDay));
     return Seconds % SecondsPerDay;
 }
 
-double AddSeconds(double x, std::int64_t Number)
+DateValue AddSeconds(DateValue x, std::int64_t Number)
 {
     return static_cast<double>(std::llround(x * SecondsPerDay) + Number) / SecondsPerDay;
 }
 
-double AddDays(double x, std::int64_t Number)
+DateValue AddDays(DateValue x, std::int64_t Number)
 {
     return x + static_cast<double>(Number);
 }
 
-double AddMonths(double x, std::int64_t Number)
+DateValue AddMonths(DateValue x, std::int64_t Number)
 {
     // No step within the valid dates is longer, and a longer one may overflow a 16-bit year.
     constexpr std::int64_t AllMonths = 120000;
@@ -60,7 +57,7 @@ struct Step
 {
     std::string_view Interval;
     int Length;
-    double (*Add)(double, std::int64_t);
+    DateValue (*Add)(DateValue, std::int64_t);
 };
 
 constexpr std::array<Step, 7> Steps{{{"s", 1, AddSeconds},
@@ -73,79 +70,87 @@ constexpr std::array<Step, 7> Steps{{{"s", 1, AddSeconds},
 
 }
 
-double DateSerial(int Year, int Month, int Day)
+DayNumber DateSerial(int Year, int Month, int Day)
 {
     if (Year >= 0 && Year < 100) Year += Year < 30 ? 2000 : 1900;
     const auto FirstMonth = year{Year} / January;
     return Serial(sys_days{(FirstMonth + (months{Month} - months{1})) / 1} + days{Day} - days{1});
 }
 
-double TimeSerial(int Hours, int Minutes, int Seconds)
+DateValue TimeSerial(int Hours, int Minutes, int Seconds)
 {
     return static_cast<double>(Hours * 3600 + Minutes * 60 + Seconds) / SecondsPerDay;
 }
 
-int Year(double x)
+DayNumber Int(DateValue x)
+{
+    return static_cast<DayNumber>(std::floor(x));
+}
+
+int Year(DateValue x)
 {
     return static_cast<int>(CivilDate(x).year());
 }
 
-int Month(double x)
+int Month(DateValue x)
 {
     return static_cast<int>(static_cast<unsigned>(CivilDate(x).month()));
 }
 
-int Day(double x)
+int Day(DateValue x)
 {
     return static_cast<int>(static_cast<unsigned>(CivilDate(x).day()));
 }
 
-int Hour(double x)
+int Hour(DateValue x)
 {
     return ClockSecond(x) / 3600;
 }
 
-int Minute(double x)
+int Minute(DateValue x)
 {
     return ClockSecond(x) / 60 % 60;
 }
 
-int Second(double x)
+int Second(DateValue x)
 {
     return ClockSecond(x) % 60;
 }
 
-int Weekday(double x, int First)
+int Weekday(DateValue x, int First)
 {
-    const weekday Today{Epoch + days{DayOf(x)}};
+    const weekday Today{Epoch + days{Int(x)}};
     return static_cast<int>((Today - weekday{static_cast<unsigned>(First - 1)}).count()) + 1;
 }
 
-std::optional<double> DateAdd(std::string_view Interval, int Number, double x)
+std::optional<DateValue> DateAdd(std::string_view Interval, int Number, DateValue x)
 {
     const auto* const Found = std::find_if(
         Steps.begin(), Steps.end(), [&](const Step& Each) { return Each.Interval == Interval; });
-    if (Found == Steps.end()) return std::nullopt;
+    if (Found == Steps.end()) throw std::logic_error(std::string(Interval));
 
-    const double Result = Found->Add(x, std::int64_t{Number} * Found->Length);
+    const DateValue Result = Found->Add(x, std::int64_t{Number} * Found->Length);
     if (Result < FirstDate || Result >= LastDate + 1) return std::nullopt;
     return Result;
 }
 
-std::int64_t DateDiff(std::string_view Interval, double a, double b, int First)
+std::int64_t DateDiff(std::string_view Interval, DateValue a, DateValue b, int First)
 {
     if (Interval == "s") return std::llround((b - a) * SecondsPerDay);
-    if (Interval == "d" || Interval == "y") return DayOf(b) - DayOf(a);
+    if (Interval == "d" || Interval == "y") return Int(b) - Int(a);
     if (Interval == "ww") {
-        const auto WeeksBefore = [First](double x) { return floor<weeks>(days{DayOf(x) - First}); };
+        const auto WeeksBefore = [First](DateValue x) {
+            return floor<weeks>(days{Int(x) - First});
+        };
         return (WeeksBefore(b) - WeeksBefore(a)).count();
     }
-    return 0;
+    throw std::logic_error(std::string(Interval));
 }
 
-int DatePart(std::string_view Interval, double x)
+int DatePart(std::string_view Interval, DateValue x)
 {
-    return Interval == "q" ? (Month(x) + 2) / 3 : 0;
+    if (Interval == "q") return (Month(x) + 2) / 3;
+    throw std::logic_error(std::string(Interval));
 }
 
 }

@@ -11,7 +11,7 @@ namespace vellarno {
 /// time zone. Valid from FirstDate to the end of the day LastDate.
 using DateValue = double;
 
-/// A whole date value.
+/// A whole date value: a day at 00:00:00.
 using DayNumber = int;
 
 constexpr DayNumber FirstDate = -657434; ///< 01/01/0100
@@ -24,36 +24,41 @@ constexpr int LastYear = 2100;
 /// The day at 00:00:00. Month and day may lie outside their range and carry over: day 0 is the last
 /// day of the month before, month 13 the next January.
 /// @param Year  0 to 29 stand for 2000 to 2029, 30 to 99 for 1930 to 1999; else literal, to 9999.
-double DateSerial(int Year, int Month, int Day);
+DayNumber DateSerial(int Year, int Month, int Day);
 
 /// The time of day as a fraction of a day; 12:00:00 is exactly 0.5.
-double TimeSerial(int Hours, int Minutes, int Seconds);
+DateValue TimeSerial(int Hours, int Minutes, int Seconds);
 
-int Year(double x);
-int Month(double x); ///< 1 to 12
-int Day(double x);   ///< 1 to 31
+/// The day of x, whatever its time of day.
+DayNumber Int(DateValue x);
+
+int Year(DateValue x);
+int Month(DateValue x); ///< 1 to 12
+int Day(DateValue x);   ///< 1 to 31
 
 /// Clock figures of the time of day of x, to the nearest second, so that the inexactness of the
 /// difference of two large date values is absorbed. Whole days don't count: Hour(1.5) is 12.
-int Hour(double x);
-int Minute(double x);
-int Second(double x);
+int Hour(DateValue x);
+int Minute(DateValue x);
+int Second(DateValue x);
 
 /// 1 to 7, counted from the weekday First: 1 Sunday, 2 Monday, … 7 Saturday.
-int Weekday(double x, int First);
+int Weekday(DateValue x, int First);
+
+// An interval that an operation doesn't have is a fault of the program: std::logic_error.
 
 /// x moved by Number times "s", "n" (minutes), "h", "d", "ww" (weeks), "m" or "q" (quarters).
 /// Months keep the day of the month and the time of day; a day that the target month lacks becomes
 /// its last one. Steps of the clock are taken in whole seconds, so that midnight is met exactly.
-/// @return nothing if the result lies outside the valid dates, or for another interval.
-std::optional<double> DateAdd(std::string_view Interval, int Number, double x);
+/// @return nothing if the result lies outside the valid dates.
+std::optional<DateValue> DateAdd(std::string_view Interval, int Number, DateValue x);
 
 /// Distance from a to b, negative if b is the earlier: "d" or "y" in calendar days, "s" in seconds,
-/// "ww" in weekdays First after a up to and including b; 0 for another interval.
+/// "ww" in weekdays First after a up to and including b.
 /// @param First  as for Weekday.
-std::int64_t DateDiff(std::string_view Interval, double a, double b, int First = 1);
+std::int64_t DateDiff(std::string_view Interval, DateValue a, DateValue b, int First = 1);
 
-/// The quarter, 1 to 4, for "q", the only interval; 0 for another one.
-int DatePart(std::string_view Interval, double x);
+/// The quarter, 1 to 4, for "q".
+int DatePart(std::string_view Interval, DateValue x);
 
 }

@@ -4,7 +4,7 @@
 
 namespace vellarno {
 
-int EasterDate(int Year)
+DayNumber EasterDate(int Year)
 {
     if (Year < 0 || Year > 9999) return 0;
     const int a = Year % 19;
@@ -20,7 +20,7 @@ int EasterDate(int Year)
     const int l = (32 + 2 * e + 2 * i - h - k) % 7;
     const int m = (a + 11 * h + 22 * l) / 451;
     const int n = h + l - 7 * m + 114;
-    return static_cast<int>(DateSerial(Year, n / 31, n % 31 + 1));
+    return DateSerial(Year, n / 31, n % 31 + 1);
 }
 
 bool IsHoliday(DayNumber Serial, DayNumber MondayNumber)

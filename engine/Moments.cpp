@@ -11,7 +11,7 @@ MomentPeriod OrderMoments(Moment First, Moment Second)
     const auto EndTime = static_cast<float>(Second.TimeOfDay);
     constexpr float Noon = 0.5F; // exactly 12:00:00 moves nothing
 
-    double CountedEnd = Second.Value();
+    DateValue CountedEnd = Second.Value();
     if (StartTime > EndTime) CountedEnd -= 1;
     if (StartTime < Noon && EndTime > Noon) CountedEnd -= 0.5;
     return {First.Value(), Second.Value(), CountedEnd};

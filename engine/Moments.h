@@ -1,22 +1,24 @@
 #pragma once
 
+#include "engine/DateTime.h"
+
 namespace vellarno {
 
 /// A moment as the user types it.
 struct Moment
 {
-    double Day;       ///< date value at 00:00:00
-    double TimeOfDay; ///< 0 to below 1
+    DayNumber Day;
+    DateValue TimeOfDay; ///< 0 to below 1
 
-    double Value() const { return Day + TimeOfDay; }
+    DateValue Value() const { return Day + TimeOfDay; }
 };
 
 /// The period between two moments.
 struct MomentPeriod
 {
-    double StartDate;  ///< the earlier moment
-    double EndDate;    ///< the later moment
-    double CountedEnd; ///< where the count of whole days ends, for CalcDates
+    DateValue StartDate;  ///< the earlier moment
+    DateValue EndDate;    ///< the later moment
+    DateValue CountedEnd; ///< where the count of whole days ends, for CalcDates
 };
 
 /// The two moments in order, whichever was typed first, with the end for the count of days: a last

@@ -1,7 +1,5 @@
 #include "engine/Text.h"
 
-#include "engine/DateTime.h"
-
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -66,15 +64,15 @@ std::string TwoDigits(int Number)
 struct DateField
 {
     std::string_view Name;
-    std::string (*Print)(double x);
+    std::string (*Print)(DateValue x);
 };
 
-std::string PrintWeekday(double x)
+std::string PrintWeekday(DateValue x)
 {
     return std::string(WeekdayNames.at(static_cast<std::size_t>(Weekday(x, 1) - 1)));
 }
 
-std::string PrintMonth(double x)
+std::string PrintMonth(DateValue x)
 {
     return std::string(MonthNames.at(static_cast<std::size_t>(Month(x) - 1)));
 }
@@ -82,18 +80,18 @@ std::string PrintMonth(double x)
 /// A longer name stands before the shorter one that it begins with.
 constexpr std::array<DateField, 10> DateFields{{
     {"dddd", PrintWeekday},
-    {"dd", [](double x) { return TwoDigits(Day(x)); }},
-    {"d", [](double x) { return CStr(Day(x)); }},
+    {"dd", [](DateValue x) { return TwoDigits(Day(x)); }},
+    {"d", [](DateValue x) { return CStr(Day(x)); }},
     {"mmmm", PrintMonth},
-    {"mmm", [](double x) { return PrintMonth(x).substr(0, 3); }},
-    {"mm", [](double x) { return TwoDigits(Minute(x)); }},
-    {"yyyy", [](double x) { return Digits(Year(x), 4, false); }},
-    {"yy", [](double x) { return TwoDigits(Year(x) % 100); }},
-    {"hh", [](double x) { return TwoDigits(Hour(x)); }},
-    {"ss", [](double x) { return TwoDigits(Second(x)); }},
+    {"mmm", [](DateValue x) { return PrintMonth(x).substr(0, 3); }},
+    {"mm", [](DateValue x) { return TwoDigits(Minute(x)); }},
+    {"yyyy", [](DateValue x) { return Digits(Year(x), 4, false); }},
+    {"yy", [](DateValue x) { return TwoDigits(Year(x) % 100); }},
+    {"hh", [](DateValue x) { return TwoDigits(Hour(x)); }},
+    {"ss", [](DateValue x) { return TwoDigits(Second(x)); }},
 }};
 
-std::string FormatDate(double Value, std::string_view Pattern)
+std::string FormatDate(DateValue Value, std::string_view Pattern)
 {
     std::string Text;
     while (!Pattern.empty()) {
@@ -140,7 +138,7 @@ bool IsDate(std::string_view Text)
     return CDate(Text).has_value();
 }
 
-std::optional<double> CDate(std::string_view Text)
+std::optional<DayNumber> CDate(std::string_view Text)
 {
     const auto Separators = std::count(Text.begin(), Text.end(), '/');
     const auto Giorno = TakeNumber(Text);
@@ -149,7 +147,7 @@ std::optional<double> CDate(std::string_view Text)
     if (Separators != 2 || !Giorno || !Mese || !Anno || *Anno > 9999) return std::nullopt;
 
     // A day that the calendar lacks is one that DateSerial carries over.
-    const double Result = DateSerial(*Anno, *Mese, *Giorno);
+    const DayNumber Result = DateSerial(*Anno, *Mese, *Giorno);
     if (Day(Result) != *Giorno || Month(Result) != *Mese) return std::nullopt;
     return Result;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/DateTime.h"
+
 #include <concepts>
 #include <cstdint>
 #include <optional>
@@ -26,10 +28,10 @@ int CLng(double Number);
 /// True if CDate reads Text.
 bool IsDate(std::string_view Text);
 
-/// The day that a text "day/month/year" names, at 00:00:00. Blanks around the numbers don't count;
+/// The day that a text "day/month/year" names. Blanks around the numbers don't count;
 /// years below 100 are read as by DateSerial.
 /// @return nothing if the text has another form or the calendar lacks that day.
-std::optional<double> CDate(std::string_view Text);
+std::optional<DayNumber> CDate(std::string_view Text);
 
 /// Value by a pattern, with Italian names and separators.
 /// A pattern of zeros prints the nearest whole number with at least as many digits, and with a

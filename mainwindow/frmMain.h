@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/DateTime.h"
 #include "engine/ResultLabels.h"
 #include "minicalc/frmMiniCalc.h"
 #include "services/CTooltip.h"
@@ -104,9 +105,9 @@ private:
     void CompareTimes();
     void CompareMoments();
     void CompareDates();
-    double TypedDate(int First) const;
-    double TypedTime(int First) const;
-    void ShowWeekdays(double StartDate, double EndDate);
+    DayNumber TypedDate(int First) const;
+    DateValue TypedTime(int First) const;
+    void ShowWeekdays(DateValue StartDate, DateValue EndDate);
     bool HasAllFields(int Mode) const;
     void ShowIncompleteData();
     bool ValidateDates();
@@ -151,10 +152,10 @@ private:
     void CloseCalendar();
     void hscDataScroll_Change();
     bool picOption_KeyDown(forms::Key Pressed);
-    void MoveMark(double To);
+    void MoveMark(DateValue To);
     void PlaceMark();
     const forms::Label& MarkedCell() const;
-    int FirstDay() const;
+    DayNumber FirstDay() const;
     int LastDay() const;
     void AnnounceStep();
     void txtCalMeseAnno_GotFocus();

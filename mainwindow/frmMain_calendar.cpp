@@ -142,7 +142,7 @@ bool frmMain::picOption_KeyDown(forms::Key Pressed)
 }
 
 /// @param To  a day of the month on show, or of the one before or after: the calendar steps there.
-void frmMain::MoveMark(double To)
+void frmMain::MoveMark(DateValue To)
 {
     CalGiorno = Day(To);
     const int month = Month(To);
@@ -154,9 +154,9 @@ void frmMain::MoveMark(double To)
     }
 }
 
-int frmMain::FirstDay() const
+DayNumber frmMain::FirstDay() const
 {
-    return CLng(DateSerial(CalAnno, CalMese, 1));
+    return DateSerial(CalAnno, CalMese, 1);
 }
 
 int frmMain::LastDay() const
@@ -182,7 +182,7 @@ void frmMain::txtCalMeseAnno_GotFocus()
 
 void frmMain::FillCalendar(int Mese, int Anno)
 {
-    const int first = CLng(DateSerial(Anno, Mese, 1));
+    const DayNumber first = DateSerial(Anno, Mese, 1);
     txtCalMeseAnno.SetText(InCapitals(Format(first, " mmm yyyy")));
     const int monday = first - Weekday(first, 2) + 1;
     const int easterMonday = EasterDate(Year(monday)) + 1;
@@ -190,7 +190,7 @@ void frmMain::FillCalendar(int Mese, int Anno)
     PlaceMark();
     int serial = monday;
     for (auto& cell : GIORNO) FillDay(cell, serial++, Mese, easterMonday);
-    const int today = static_cast<int>(Date()) - monday + 1;
+    const int today = Date() - monday + 1;
     if (!GIORNO.Has(today) || !GIORNO[today].Enabled()) return;
     shpOggi.SetLeft(GIORNO[today].Left() - 1);
     shpOggi.SetTop(GIORNO[today].Top());

@@ -45,7 +45,7 @@ void frmMain::CompareTimes()
         ShowIncompleteData();
         return;
     }
-    const double today = Date(); // one reading for both: midnight can't come between them
+    const DayNumber today = Date(); // one reading for both: midnight can't come between them
     CalcTimes(today + TypedTime(0), today + TypedTime(3), TypedTime(3), *this);
 }
 
@@ -71,28 +71,28 @@ void frmMain::CompareDates()
         return;
     }
     if (!ValidateDates()) return;
-    double start = TypedDate(0);
-    double end = TypedDate(3);
+    DayNumber start = TypedDate(0);
+    DayNumber end = TypedDate(3);
     ShowWeekdays(start, end);
     if (start > end) std::swap(start, end);
     if (chkDayInt.Value() == 1) end += 1;
     CalcDates(start, end, SaturdayIsHoliday, *this);
 }
 
-double frmMain::TypedDate(int First) const
+DayNumber frmMain::TypedDate(int First) const
 {
     return DateSerial(Number(txtData[First + 2]), Number(txtData[First + 1]),
                       Number(txtData[First]));
 }
 
-double frmMain::TypedTime(int First) const
+DateValue frmMain::TypedTime(int First) const
 {
     return TimeSerial(Number(txtTime[First]), Number(txtTime[First + 1]),
                       Number(txtTime[First + 2]));
 }
 
 // Before the two are put in order: each weekday stays beside the date that was typed there.
-void frmMain::ShowWeekdays(double StartDate, double EndDate)
+void frmMain::ShowWeekdays(DateValue StartDate, DateValue EndDate)
 {
     lblWeekDay[0].SetCaption(WeekdayText(Weekday(StartDate, 1)));
     lblWeekDay[1].SetCaption(WeekdayText(Weekday(EndDate, 1)));

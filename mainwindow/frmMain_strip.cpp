@@ -27,17 +27,17 @@ struct YearFigure
     const char* Meaning;
 };
 
-std::string Distance(const char* Interval, double From, double To, int First, int More = 0)
+std::string Distance(const char* Interval, DayNumber From, DayNumber To, int First, int More = 0)
 {
     return CStr(static_cast<int>(std::abs(DateDiff(Interval, From, To, First))) + More);
 }
 
 /// What the panels 0 to 4 show on a day. Weeks gone are the Tuesdays since the 1st of January,
 /// weeks left the Sundays still to come; days gone count today, days left don't.
-std::array<YearFigure, 5> FiguresOf(double Today)
+std::array<YearFigure, 5> FiguresOf(DayNumber Today)
 {
-    const double first = DateSerial(Year(Today), 1, 1);
-    const double last = DateSerial(Year(Today), 12, 31);
+    const DayNumber first = DateSerial(Year(Today), 1, 1);
+    const DayNumber last = DateSerial(Year(Today), 12, 31);
     return {{{CStr(DatePart("q", Today)) + "°", "Trimestre corrente"},
              {Distance("ww", first, Today, 3), "Settimane trascorse da inizio anno"},
              {Distance("ww", Today, last, 1), "Settimane mancanti a fine anno"},
@@ -105,7 +105,7 @@ void frmMain::PrintCentred(forms::PictureBox& Panel, const std::string& Text)
 void frmMain::cmdNowTime_Click(int Index)
 {
     HideCalendar();
-    const double now = Now();
+    const DateValue now = Now();
     ClearResults();
     const int first = Index == 1 ? 3 : 0;
     txtTime[first].SetText(Format(Hour(now), "00"));

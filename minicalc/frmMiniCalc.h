@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/DateTime.h"
 #include "services/SegmentedField.h"
 #include "services/forms/CommandButton.h"
 #include "services/forms/ControlArray.h"
@@ -71,7 +72,7 @@ private:
     void txtSommaDati_KeyPress(short& KeyAscii);
     void RefuseYear();
     std::string TypedDate() const;
-    void ShowDate(double Value);
+    void ShowDate(DateValue Value);
     const DateUnit& Unit() const;
 
     int HelpIndexTime = 0; ///< help text of the chosen format

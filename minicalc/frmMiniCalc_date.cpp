@@ -21,8 +21,8 @@ constexpr const char* NoDateText =
 
 }
 
-std::optional<double> StepDate(std::string_view Date, const DateUnit& Unit,
-                               std::string_view Quantity, bool Subtract)
+std::optional<DateValue> StepDate(std::string_view Date, const DateUnit& Unit,
+                                  std::string_view Quantity, bool Subtract)
 {
     const auto start = CDate(Date);
     const auto number = CInt(Quantity);
@@ -60,7 +60,7 @@ std::string frmMiniCalc::TypedDate() const
 }
 
 // A year above the limit has brought today's date back while it was written: that date stands.
-void frmMiniCalc::ShowDate(double Value)
+void frmMiniCalc::ShowDate(DateValue Value)
 {
     const std::string year = Format(Year(Value), "0000");
     txtData[YearField].SetText(year);

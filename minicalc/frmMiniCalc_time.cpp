@@ -14,7 +14,7 @@ constexpr int Fields = 6;
 /// Each field cuts it to the digits that it holds.
 constexpr const char* Zero = "000";
 
-double Move(double Moment, ClockTime Step)
+DateValue Move(DateValue Moment, ClockTime Step)
 {
     Moment = DateAdd("h", Step.Hours, Moment).value();
     Moment = DateAdd("n", Step.Minutes, Moment).value();
@@ -25,7 +25,7 @@ double Move(double Moment, ClockTime Step)
 
 ClockTime AddOnClock(ClockTime Total, ClockTime Step)
 {
-    const double moment = Move(Move(0, Total), Step);
+    const DateValue moment = Move(Move(0, Total), Step);
     return {Hour(moment), Minute(moment), Second(moment)};
 }
 

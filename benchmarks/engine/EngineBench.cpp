@@ -17,10 +17,8 @@ namespace vellarno {
 
 namespace {
 
-const double FirstMoment = DateSerial(1000, 1, 1);
-const double LastMoment = DateSerial(2100, 12, 31);
-const auto FirstDay = static_cast<DayNumber>(FirstMoment);
-const auto LastDay = static_cast<DayNumber>(LastMoment);
+const DayNumber FirstDay = DateSerial(FirstYear, 1, 1);
+const DayNumber LastDay = DateSerial(LastYear, 12, 31);
 
 /// One step for each day, Easter once for each year.
 PeriodFigures WalkPeriod(DayNumber FromDay, DayNumber ToDay, bool SaturdayIsHoliday)
@@ -95,7 +93,7 @@ void PressWithDatesAndTimes(benchmark::State& State)
     KeptLabels Labels;
     Repeat(State, 86400, [&](int i) {
         const MomentPeriod Period =
-            OrderMoments({LastMoment, i / 86400.0}, {FirstMoment, TimeSerial(0, 0, 0)});
+            OrderMoments({LastDay, i / 86400.0}, {FirstDay, TimeSerial(0, 0, 0)});
         CalcTimes(Period.StartDate, Period.EndDate, std::nullopt, Labels);
         CalcDates(Period.StartDate, Period.CountedEnd, false, Labels);
         return Labels;

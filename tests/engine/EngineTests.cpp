@@ -72,6 +72,8 @@ TEST(Dates, StepsMeetMidnightAndEndWithTheValidDates)
         EXPECT_FALSE(DateAdd(interval, -1, FirstDate)) << interval;
         EXPECT_FALSE(DateAdd(interval, 1, LastDate + lastSecond)) << interval;
     }
+    EXPECT_THROW(DateAdd("y", 1, 0), std::logic_error);
+    EXPECT_THROW(DateDiff("m", 0, 1), std::logic_error);
 }
 
 TEST(Dates, TheClockTellsLocalTimeAlsoWhenTheZoneHasChanged)

@@ -58,7 +58,10 @@ TEST_F(MomentCalculation, CountsWholeDaysAndTheClockOfTheRest)
         {"1003200511032005", "060000120000",
          "00 00 01 06 00 00|01 00 01 00 00 00 30 1.800 108.000|Giovedì Venerdì"},
         {"1003200512032005", "060000120000",
-         "00 00 02 06 00 00|02 00 03 01 00 00 54 3.240 194.400|Giovedì Sabato"}};
+         "00 00 02 06 00 00|02 00 03 01 00 00 54 3.240 194.400|Giovedì Sabato"},
+        // the last evening counts for the day after it
+        {"3112210031122100", "180000200000",
+         "00 00 00 02 00 00|00 00 00 00 00 00 02 120 7.200|Venerdì Venerdì"}};
     for (const auto& [dates, times, figures, wholeDay, saturdaysOff] : rows) {
         Compare(dates, times);
         EXPECT_EQ(Figures(), figures) << dates << ' ' << times;
