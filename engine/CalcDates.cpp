@@ -34,7 +34,7 @@ DateFigures DateDifference(DateValue StartDate, DateValue EndDate)
             .Months = (M2 - M1 - (Borrows ? 1 : 0) + 12) % 12,
             .Days = std::max(Lent - D1 + D2, 0),
             .TotalDays = static_cast<int>(std::abs(DateDiff("y", EndDate, StartDate))),
-            .TotalWeeks = static_cast<int>(std::abs(DateDiff("ww", EndDate, StartDate, 2)))};
+            .TotalWeeks = static_cast<int>(std::abs(DateDiff("ww", EndDate, StartDate, Monday)))};
 }
 
 void CalcDates(DateValue StartDate, DateValue EndDate, bool SaturdayIsHoliday, ResultLabels& Labels)

@@ -12,8 +12,8 @@ namespace {
 /// True unless the weekday alone makes the day free.
 bool IsWeekdayOfWork(DayNumber Day, bool SaturdayIsHoliday)
 {
-    const int Number = Weekday(Day, 1);
-    return Number != 1 && !(SaturdayIsHoliday && Number == 7);
+    const int Number = Weekday(Day, Sunday);
+    return Number != Sunday && !(SaturdayIsHoliday && Number == Saturday);
 }
 
 /// Holidays of one year, those from the day End on left out.
@@ -66,8 +66,8 @@ PeriodFigures CountPeriod(DayNumber FromDay, DayNumber ToDay, bool SaturdayIsHol
 
     PeriodFigures Figures{};
     Figures.DayCount = DayCount;
-    Figures.Sundays = CountWeekdays(1);
-    Figures.Saturdays = CountWeekdays(7);
+    Figures.Sundays = CountWeekdays(Sunday);
+    Figures.Saturdays = CountWeekdays(Saturday);
     Figures.Holidays =
         HolidaysBefore(End, SaturdayIsHoliday) - HolidaysBefore(FromDay, SaturdayIsHoliday);
     Figures.WorkingDays =

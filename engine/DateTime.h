@@ -42,7 +42,10 @@ int Hour(DateValue x);
 int Minute(DateValue x);
 int Second(DateValue x);
 
-/// 1 to 7, counted from the weekday First: 1 Sunday, 2 Monday, … 7 Saturday.
+/// The weekdays by number.
+enum { Sunday = 1, Monday, Tuesday, Wednesday, Thursday, Friday, Saturday };
+
+/// 1 to 7, counted from the weekday First: the weekday itself where that is Sunday.
 int Weekday(DateValue x, int First);
 
 // An interval that an operation doesn't have is a fault of the program: std::logic_error.
@@ -56,7 +59,7 @@ std::optional<DateValue> DateAdd(std::string_view Interval, int Number, DateValu
 /// Distance from a to b, negative if b is the earlier: "d" or "y" in calendar days, "s" in seconds,
 /// "ww" in weekdays First after a up to and including b.
 /// @param First  as for Weekday.
-std::int64_t DateDiff(std::string_view Interval, DateValue a, DateValue b, int First = 1);
+std::int64_t DateDiff(std::string_view Interval, DateValue a, DateValue b, int First = Sunday);
 
 /// The quarter, 1 to 4, for "q".
 int DatePart(std::string_view Interval, DateValue x);

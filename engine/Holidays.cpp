@@ -25,7 +25,7 @@ DayNumber EasterDate(int Year)
 
 bool IsHoliday(DayNumber Serial, DayNumber MondayNumber)
 {
-    if (Weekday(Serial, 1) == 1) return true;
+    if (Weekday(Serial, Sunday) == Sunday) return true;
 
     const int Mese = Month(Serial);
     const int Giorno = Day(Serial);

@@ -69,7 +69,7 @@ struct DateField
 
 std::string PrintWeekday(DateValue x)
 {
-    return std::string(WeekdayNames.at(static_cast<std::size_t>(Weekday(x, 1) - 1)));
+    return std::string(WeekdayNames.at(static_cast<std::size_t>(Weekday(x, Sunday) - Sunday)));
 }
 
 std::string PrintMonth(DateValue x)
@@ -168,8 +168,8 @@ std::string Format(std::string_view Text, std::string_view Pattern)
 
 std::string WeekdayText(int Number)
 {
-    if (Number < 1 || Number > 7) return "";
-    std::string Name(WeekdayNames[static_cast<std::size_t>(Number - 1)]);
+    if (Number < Sunday || Number > Saturday) return "";
+    std::string Name(WeekdayNames[static_cast<std::size_t>(Number - Sunday)]);
     Name.front() = static_cast<char>(Name.front() - 'a' + 'A');
     return Name;
 }

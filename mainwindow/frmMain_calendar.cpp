@@ -166,7 +166,7 @@ int frmMain::LastDay() const
 
 const forms::Label& frmMain::MarkedCell() const
 {
-    return GIORNO[Weekday(FirstDay(), 2) + CalGiorno - 1];
+    return GIORNO[Weekday(FirstDay(), Monday) + CalGiorno - 1];
 }
 
 void frmMain::PlaceMark()
@@ -184,7 +184,7 @@ void frmMain::FillCalendar(int Mese, int Anno)
 {
     const DayNumber first = DateSerial(Anno, Mese, 1);
     txtCalMeseAnno.SetText(InCapitals(Format(first, " mmm yyyy")));
-    const int monday = first - Weekday(first, 2) + 1;
+    const int monday = first - Weekday(first, Monday) + 1;
     const int easterMonday = EasterDate(Year(monday)) + 1;
     shpOggi.SetVisible(false);
     PlaceMark();

@@ -94,8 +94,8 @@ DateValue frmMain::TypedTime(int First) const
 // Before the two are put in order: each weekday stays beside the date that was typed there.
 void frmMain::ShowWeekdays(DateValue StartDate, DateValue EndDate)
 {
-    lblWeekDay[0].SetCaption(WeekdayText(Weekday(StartDate, 1)));
-    lblWeekDay[1].SetCaption(WeekdayText(Weekday(EndDate, 1)));
+    lblWeekDay[0].SetCaption(WeekdayText(Weekday(StartDate, Sunday)));
+    lblWeekDay[1].SetCaption(WeekdayText(Weekday(EndDate, Sunday)));
 }
 
 bool frmMain::HasAllFields(int Mode) const

@@ -6,8 +6,6 @@
 #include "resources/Resources.h"
 #include "services/forms/Accessibility.h"
 
-#include <cstdlib>
-
 namespace vellarno {
 
 namespace {
@@ -27,9 +25,9 @@ struct YearFigure
     const char* Meaning;
 };
 
-std::string Distance(const char* Interval, DayNumber From, DayNumber To, int First, int More = 0)
+std::string Weeks(DayNumber From, DayNumber To, int First)
 {
-    return CStr(static_cast<int>(std::abs(DateDiff(Interval, From, To, First))) + More);
+    return CStr(static_cast<int>(DateDiff("ww", From, To, First)));
 }
 
 /// What the panels 0 to 4 show on a day. Weeks gone are the Tuesdays since the 1st of January,
@@ -39,10 +37,10 @@ std::array<YearFigure, 5> FiguresOf(DayNumber Today)
     const DayNumber first = DateSerial(Year(Today), 1, 1);
     const DayNumber last = DateSerial(Year(Today), 12, 31);
     return {{{CStr(DatePart("q", Today)) + "°", "Trimestre corrente"},
-             {Distance("ww", first, Today, 3), "Settimane trascorse da inizio anno"},
-             {Distance("ww", Today, last, 1), "Settimane mancanti a fine anno"},
-             {Distance("d", first, Today, 1, 1), "Giorni trascorsi da inizio anno"},
-             {Distance("d", Today, last, 1), "Giorni mancanti a fine anno"}}};
+             {Weeks(first, Today, Tuesday), "Settimane trascorse da inizio anno"},
+             {Weeks(Today, last, Sunday), "Settimane mancanti a fine anno"},
+             {CStr(Today - first + 1), "Giorni trascorsi da inizio anno"},
+             {CStr(last - Today), "Giorni mancanti a fine anno"}}};
 }
 
 }

@@ -32,12 +32,12 @@ PeriodFigures WalkPeriod(DayNumber FromDay, DayNumber ToDay, bool SaturdayIsHoli
             CurrentYear = Year(i);
             MondayNumber = EasterDate(CurrentYear) + 1;
         }
-        const int Number = Weekday(i, 1);
-        if (Number == 1) {
+        const int Number = Weekday(i, Sunday);
+        if (Number == Sunday) {
             ++Figures.Sundays;
             continue;
         }
-        if (Number == 7) {
+        if (Number == Saturday) {
             ++Figures.Saturdays;
             if (SaturdayIsHoliday) continue;
         }
