@@ -43,15 +43,15 @@ void CalcDates(DateValue StartDate, DateValue EndDate, bool SaturdayIsHoliday, R
     if (Elapsed.TotalDays > LongPeriod) Labels.SetHourglass(true);
     const PeriodFigures Period = CountPeriod(CLng(StartDate), CLng(EndDate), SaturdayIsHoliday);
 
-    Labels.SetDati(0, Format(Elapsed.Years, "0,0"));
-    Labels.SetDati(1, Format(Elapsed.Months, "00"));
-    Labels.SetDati(2, Format(Elapsed.Days, "00"));
-    Labels.SetTotali(0, Format(Elapsed.TotalDays, "0,0"));
-    Labels.SetTotali(1, Format(Elapsed.TotalWeeks, "0,0"));
-    Labels.SetTotali(4, Format(Period.Sundays, "0,0"));
-    Labels.SetTotali(3, Format(Period.Saturdays, "0,0"));
-    Labels.SetTotali(5, Format(Period.Holidays, "0,0"));
-    Labels.SetTotali(2, Format(Period.WorkingDays, "0,0"));
+    Labels.SetDati(ResultLabels::Years, Format(Elapsed.Years, "0,0"));
+    Labels.SetDati(ResultLabels::Months, Format(Elapsed.Months, "00"));
+    Labels.SetDati(ResultLabels::Days, Format(Elapsed.Days, "00"));
+    Labels.SetTotali(ResultLabels::TotalDays, Format(Elapsed.TotalDays, "0,0"));
+    Labels.SetTotali(ResultLabels::TotalWeeks, Format(Elapsed.TotalWeeks, "0,0"));
+    Labels.SetTotali(ResultLabels::Sundays, Format(Period.Sundays, "0,0"));
+    Labels.SetTotali(ResultLabels::Saturdays, Format(Period.Saturdays, "0,0"));
+    Labels.SetTotali(ResultLabels::Holidays, Format(Period.Holidays, "0,0"));
+    Labels.SetTotali(ResultLabels::WorkingDays, Format(Period.WorkingDays, "0,0"));
     Labels.SetHourglass(false);
 }
 

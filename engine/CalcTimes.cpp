@@ -24,12 +24,12 @@ void CalcTimes(DateValue StartDate, DateValue EndDate, std::optional<DateValue> 
     if (EndTimeOfDay && EndDate < StartDate) EndDate = Int(StartDate) + 1 + *EndTimeOfDay;
     const TimeFigures Figures = TimeDifference(StartDate, EndDate);
 
-    Labels.SetDati(3, Format(Figures.Hours, "0,0"));
-    Labels.SetDati(4, Format(Figures.Minutes, "0,0"));
-    Labels.SetDati(5, Format(Figures.Seconds, "0,0"));
-    Labels.SetTotali(8, Format(Figures.TotalSeconds, "0,0"));
-    Labels.SetTotali(7, Format(Figures.TotalMinutes, "0,0"));
-    Labels.SetTotali(6, Format(Figures.TotalHours, "0,0"));
+    Labels.SetDati(ResultLabels::Hours, Format(Figures.Hours, "0,0"));
+    Labels.SetDati(ResultLabels::Minutes, Format(Figures.Minutes, "0,0"));
+    Labels.SetDati(ResultLabels::Seconds, Format(Figures.Seconds, "0,0"));
+    Labels.SetTotali(ResultLabels::TotalSeconds, Format(Figures.TotalSeconds, "0,0"));
+    Labels.SetTotali(ResultLabels::TotalMinutes, Format(Figures.TotalMinutes, "0,0"));
+    Labels.SetTotali(ResultLabels::TotalHours, Format(Figures.TotalHours, "0,0"));
 }
 
 }

@@ -8,13 +8,25 @@ namespace vellarno {
 class ResultLabels
 {
 public:
-    /// Elapsed years, months, days, hours, minutes, seconds: Index 0 to 5.
-    virtual void SetDati(int Index, const std::string& Caption) = 0;
+    /// What has elapsed, as the labels that show it are numbered.
+    enum Elapsed { Years, Months, Days, Hours, Minutes, Seconds, ElapsedCount };
 
-    /// Totals: days, weeks, working days, Saturdays, Sundays, holidays, hours, minutes, seconds:
-    /// Index 0 to 8.
-    virtual void SetTotali(int Index, const std::string& Caption) = 0;
+    /// The totals, as the labels that show them are numbered.
+    enum Total {
+        TotalDays,
+        TotalWeeks,
+        WorkingDays,
+        Saturdays,
+        Sundays,
+        Holidays,
+        TotalHours,
+        TotalMinutes,
+        TotalSeconds,
+        TotalCount
+    };
 
+    virtual void SetDati(Elapsed Which, const std::string& Caption) = 0;
+    virtual void SetTotali(Total Which, const std::string& Caption) = 0;
     virtual void SetHourglass(bool Shown) = 0;
 
 protected:

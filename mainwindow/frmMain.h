@@ -87,7 +87,7 @@ private:
     int CalCampo = 0;     ///< the entry that the calendar serves: 0 the start, 1 the end
     int CalGiorno = 0;    ///< day of the month on show that the keyboard acts on
     int UltimoGiorno = 0; ///< day of the month of the strip's last full update
-    std::array<bool, 9> BalloonShown{};
+    std::array<bool, TotalCount> BalloonShown{};
     std::optional<StatusBar> StatusStrip;
     std::optional<CTooltip> BalloonTip;
     forms::FormRef<frmMiniCalc> Sums;
@@ -112,8 +112,8 @@ private:
     void ShowIncompleteData();
     bool ValidateDates();
     void Form_KeyPress(short& KeyAscii);
-    void SetDati(int Index, const std::string& Caption) override;
-    void SetTotali(int Index, const std::string& Caption) override;
+    void SetDati(Elapsed Which, const std::string& Caption) override;
+    void SetTotali(Total Which, const std::string& Caption) override;
     void SetHourglass(bool Shown) override;
 
     // Results
@@ -123,6 +123,7 @@ private:
         std::string Caption;
     };
     std::vector<Figure> Figures() const;
+    forms::Label& CaptionOf(Total Which) const;
     void ClearResults();
     void AnnounceResults();
     void OfferCopies();

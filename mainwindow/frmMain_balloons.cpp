@@ -25,7 +25,7 @@ constexpr const char* Minutes =
 constexpr const char* Seconds =
     "Intervallo di tempo complessivo, espresso in secondi,\r\ntra  'Inizio ' e  'Fine'";
 
-constexpr BalloonText Texts[] = {
+constexpr BalloonText Texts[ResultLabels::TotalCount] = {
     {"Totale giorni",
      {"Indica il numero di giorni complessivi compresi tra\r\n"
       "la data 'Inizio' e la data 'Fine' esclusa",

@@ -119,14 +119,14 @@ void frmMain::Form_KeyPress(short& KeyAscii)
     KeyAscii = 0;
 }
 
-void frmMain::SetDati(int Index, const std::string& Caption)
+void frmMain::SetDati(Elapsed Which, const std::string& Caption)
 {
-    lblDati[Index].SetCaption(Caption);
+    lblDati[Which].SetCaption(Caption);
 }
 
-void frmMain::SetTotali(int Index, const std::string& Caption)
+void frmMain::SetTotali(Total Which, const std::string& Caption)
 {
-    lblTotali[Index].SetCaption(Caption);
+    lblTotali[Which].SetCaption(Caption);
 }
 
 void frmMain::SetHourglass(bool Shown)

@@ -57,7 +57,7 @@ void frmMain::DisableAll()
 {
     lblSeparatore.SetEnabled(0, 7, false);
     lblLabel.SetEnabled(0, 20, false);
-    lblTotali.SetEnabled(0, 8, false);
+    lblTotali.SetEnabled(TotalDays, TotalSeconds, false);
     cmdNowData.SetEnabled(0, 1, false);
     cmdNowTime.SetEnabled(0, 1, false);
     EmptyAndDisable(txtData);
@@ -81,9 +81,9 @@ void frmMain::EnableMode(int Index)
     lblSeparatore.SetEnabled(4, 7, times);
     txtTime.SetEnabled(0, 5, times);
     txtData.SetEnabled(0, 5, dates);
-    lblTotali.SetEnabled(0, 4, dates);
-    lblTotali.SetEnabled(5, 5, true);
-    lblTotali.SetEnabled(6, 8, times);
+    lblTotali.SetEnabled(TotalDays, Sundays, dates);
+    lblTotali.SetEnabled(Holidays, Holidays, true);
+    lblTotali.SetEnabled(TotalHours, TotalSeconds, times);
     if (!times)
         for (auto& box : txtTime) box.SetText("00");
     (dates ? txtData : txtTime)[0].SetFocus();
@@ -113,8 +113,8 @@ void frmMain::chkWorkSat_Click()
     PlayResSound(ClickSound);
     SaturdayIsHoliday = chkWorkSat.Value() == 1;
     const unsigned int color = SaturdayIsHoliday ? forms::PureRed : forms::Black;
-    lblTotali[3].SetForeColor(color);
-    lblLabel[18].SetForeColor(color);
+    lblTotali[Saturdays].SetForeColor(color);
+    CaptionOf(Saturdays).SetForeColor(color);
     if (HasAllFields(Moments) && HasAllFields(Dates))
         cmdCalcola_Click();
     else

@@ -8,14 +8,19 @@ namespace vellarno {
 namespace {
 
 /// Which caption of lblLabel stands beside each figure.
-constexpr int ElapsedCaptions[] = {12, 13, 14, 3, 4, 5};
-constexpr int TotalCaptions[] = {15, 16, 17, 18, 19, 20, 2, 6, 7};
+constexpr int ElapsedCaptions[ResultLabels::ElapsedCount] = {12, 13, 14, 3, 4, 5};
+constexpr int TotalCaptions[ResultLabels::TotalCount] = {15, 16, 17, 18, 19, 20, 2, 6, 7};
 
 void CopyCaption(const forms::Label& Of)
 {
     if (!Of.Caption().empty()) forms::SetClipboardText(Of.Caption());
 }
 
+}
+
+forms::Label& frmMain::CaptionOf(Total Which) const
+{
+    return lblLabel[TotalCaptions[Which]];
 }
 
 /// All of them, shown or empty, in the order in which they are read.

@@ -68,8 +68,8 @@ BENCHMARK(LongestPeriod<CountPeriod>)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosec
 class KeptLabels final : public ResultLabels
 {
 public:
-    void SetDati(int /*Index*/, const std::string& Caption) override { Length += Caption.size(); }
-    void SetTotali(int /*Index*/, const std::string& Caption) override { Length += Caption.size(); }
+    void SetDati(Elapsed, const std::string& Caption) override { Length += Caption.size(); }
+    void SetTotali(Total, const std::string& Caption) override { Length += Caption.size(); }
     void SetHourglass(bool /*Shown*/) override {}
 
 private:

@@ -90,8 +90,8 @@ TEST(Dates, TheClockTellsLocalTimeAlsoWhenTheZoneHasChanged)
 struct Hourglass final : ResultLabels
 {
     std::string Log;
-    void SetDati(int, const std::string&) override { Log += '.'; }
-    void SetTotali(int, const std::string&) override { Log += '.'; }
+    void SetDati(Elapsed, const std::string&) override { Log += '.'; }
+    void SetTotali(Total, const std::string&) override { Log += '.'; }
     void SetHourglass(bool Shown) override { Log += Shown ? "shown " : " gone"; }
 };
 
