@@ -78,7 +78,7 @@ void frmMain::Form_Load()
     for (auto& caption : lblChekBox) caption.FitWidth();
     imgOnTop.SetMousePointer(forms::CustomPointer);
     imgOnTop.SetMouseIcon(resources::HandCursor);
-    imgOnTop.SetPicture(resources::Icon(201));
+    imgOnTop.SetPicture(resources::Path(resources::Pin::Off));
     imgOnTop.SetPressed(false);
     BalloonTip.emplace();
     BalloonTip->SetStyle(1);

@@ -12,8 +12,6 @@ enum Mode { Times, Moments, Dates };
 constexpr const char* ModeNames[] = {"Calcolo tra ore", "Calcolo tra date e ore",
                                      "Calcolo tra date"};
 
-constexpr int ClickSound = 202;
-
 struct PanelPlace
 {
     int Top, Height;
@@ -69,7 +67,7 @@ void frmMain::EnableMode(int Index)
 {
     const bool dates = Index != Times;
     const bool times = Index != Dates;
-    if (times) PlayResSound(ClickSound);
+    if (times) PlayResSound(resources::Sound::Click);
     if (!optDataTime[Index].Value()) return; // another mode was chosen while it sounded
     cmdNowTime.SetEnabled(0, 1, times);
     cmdNowData.SetEnabled(0, 1, dates);
@@ -98,7 +96,7 @@ void frmMain::EnableMode(int Index)
 void frmMain::chkDayInt_Click()
 {
     DescribeTotals();
-    PlayResSound(ClickSound);
+    PlayResSound(resources::Sound::Click);
     if (!optDataTime[Dates].Value()) return; // the mode was left while it sounded
     txtTime[3].SetText(chkDayInt.Value() == 1 ? "24" : "00");
     if (HasAllFields(Dates))
@@ -110,7 +108,7 @@ void frmMain::chkDayInt_Click()
 void frmMain::chkWorkSat_Click()
 {
     DescribeTotals();
-    PlayResSound(ClickSound);
+    PlayResSound(resources::Sound::Click);
     SaturdayIsHoliday = chkWorkSat.Value() == 1;
     const unsigned int color = SaturdayIsHoliday ? forms::PureRed : forms::Black;
     lblTotali[Saturdays].SetForeColor(color);

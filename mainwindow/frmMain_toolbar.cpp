@@ -1,6 +1,5 @@
 #include "mainwindow/frmMain.h"
 
-#include "resources/Resources.h"
 #include "services/App.h"
 #include "services/GenericBas.h"
 #include "services/Platform.h"
@@ -11,13 +10,6 @@
 
 namespace vellarno {
 
-namespace {
-
-constexpr int OpeningSound = 201;
-constexpr int HelpPage = 300;
-
-}
-
 void frmMain::picToolBarra_Click(int Index)
 {
     HideCalendar();
@@ -26,7 +18,7 @@ void frmMain::picToolBarra_Click(int Index)
     case About: (new frmAbout)->ShowModal(*this); break; // deletes itself when closed
     case Help: ShowHelp(); break;
     case SequentialSums:
-        PlayResSound(OpeningSound);
+        PlayResSound(resources::Sound::Opening);
         if (!Visible()) break;                        // closed while the sound served events
         if (!Sums.Open()) Sums.Set(*new frmMiniCalc); // deletes itself when closed
         Sums->Show(this);
@@ -38,7 +30,7 @@ void frmMain::picToolBarra_Click(int Index)
 void frmMain::imgOnTop_Click()
 {
     OnTopFlag = !OnTopFlag;
-    imgOnTop.SetPicture(resources::Icon(OnTopFlag ? 202 : 201));
+    imgOnTop.SetPicture(resources::Path(OnTopFlag ? resources::Pin::On : resources::Pin::Off));
     imgOnTop.SetPressed(OnTopFlag);
     SetAlwaysOnTop(*this, OnTopFlag);
     forms::Announce(*this, imgOnTop.AccessibleName() + (OnTopFlag ? ": attivo" : ": non attivo"));
@@ -50,7 +42,7 @@ void frmMain::ShowHelp()
     bool written = WritePrivateFile(path, "");
     forms::DoEvents();
     if (!Visible()) return; // the program has ended meanwhile and has tidied up
-    written = written && WritePrivateFile(path, forms::ReadResource(resources::Custom(HelpPage)));
+    written = written && WritePrivateFile(path, forms::ReadResource(resources::HelpPage));
     forms::DoEvents();
     if (!Visible()) return;
     if (written && FileExists(path))

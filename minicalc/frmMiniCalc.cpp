@@ -14,7 +14,6 @@ namespace vellarno {
 
 namespace {
 
-constexpr int ClickSound = 202;
 constexpr int TimeSide = 0;
 constexpr int DateSide = 1;
 /// The units' help texts follow those of the two formats.
@@ -42,7 +41,7 @@ constexpr std::array HelpTexts = {
 /// @return false if another one of its group was chosen while it sounded: that one has done all.
 bool PlayClickOf(const forms::OptionButton& Option)
 {
-    PlayResSound(ClickSound);
+    PlayResSound(resources::Sound::Click);
     return Option.Value();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <stdexcept>
 #include <string>
 
 namespace vellarno::resources {
@@ -7,25 +8,29 @@ namespace vellarno::resources {
 /// The pointing hand over what can be pressed; each desktop draws its own.
 inline constexpr int HandCursor = 101;
 
-/// Icons by id: 201 the pin off, 202 the pin on.
-inline std::string Icon(int Id)
+inline constexpr const char* HelpPage = ":/HelpVellarno.htm";
+
+/// Of the calculator that opens, and of an option or check box.
+enum class Sound { Opening = 201, Click = 202 };
+
+inline std::string Path(Sound Id)
 {
     switch (Id) {
-    case 201: return ":/pictures/pin-off.png";
-    case 202: return ":/pictures/pin-on.png";
-    default: return {};
+    case Sound::Opening: return ":/sounds/201.wav";
+    case Sound::Click: return ":/sounds/202.wav";
     }
+    throw std::logic_error("no such sound");
 }
 
-/// Data by id: 201 and 202 the sounds, 300 the help page.
-inline std::string Custom(int Id)
+enum class Pin { Off = 201, On = 202 };
+
+inline std::string Path(Pin Id)
 {
     switch (Id) {
-    case 201: return ":/sounds/201.wav";
-    case 202: return ":/sounds/202.wav";
-    case 300: return ":/HelpVellarno.htm";
-    default: return {};
+    case Pin::Off: return ":/pictures/pin-off.png";
+    case Pin::On: return ":/pictures/pin-on.png";
     }
+    throw std::logic_error("no such icon");
 }
 
 }

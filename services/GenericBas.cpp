@@ -1,6 +1,5 @@
 #include "services/GenericBas.h"
 
-#include "resources/Resources.h"
 #include "services/Platform.h"
 #include "services/forms/CheckBox.h"
 #include "services/forms/CommandButton.h"
@@ -24,9 +23,9 @@ void SetHandCursor(const forms::Form& Form)
     }
 }
 
-void PlayResSound(int Id)
+void PlayResSound(resources::Sound Id)
 {
-    System().PlaySound(forms::ReadResource(resources::Custom(Id)));
+    System().PlaySound(forms::ReadResource(resources::Path(Id)));
     forms::DoEvents();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "resources/Resources.h"
 #include "services/forms/Form.h"
 
 #include <string>
@@ -13,9 +14,9 @@ extern bool OnTopFlag;
 /// Gives the hand cursor to the form's check boxes, option buttons and command buttons.
 void SetHandCursor(const forms::Form& Form);
 
-/// Starts a sound of the resources and returns without waiting for its end.
-/// @param Id  201, the opening of the calculator, or 202, the click of an option or check box.
-void PlayResSound(int Id);
+/// Starts a sound of the resources, serves the pending events and returns while it still plays.
+/// By then the user may have chosen something else, or closed the window.
+void PlayResSound(resources::Sound Id);
 
 /// Keeps the window above all ordinary windows, or gives that up. It is neither moved nor hidden.
 void SetAlwaysOnTop(forms::Form& Form, bool OnTop);

@@ -37,9 +37,9 @@ public:
     }
     void PlaySound(const std::string& WaveImage) override
     {
-        for (const int id : {201, 202})
-            if (WaveImage == forms::ReadResource(resources::Custom(id)))
-                Note("sound " + std::to_string(id));
+        for (const auto sound : {resources::Sound::Opening, resources::Sound::Click})
+            if (WaveImage == forms::ReadResource(resources::Path(sound)))
+                Note("sound " + std::to_string(static_cast<int>(sound)));
     }
     bool OpenAddress(const std::string& Address) override { return Note("open " + Address), true; }
     bool StartEntry(const std::string& Entry) override
