@@ -104,4 +104,12 @@ void frmMain::Form_Unload()
     forms::Application::Quit();
 }
 
+void frmMain::Form_KeyPress(short& KeyAscii)
+{
+    constexpr short Enter = 13;
+    if (KeyAscii != Enter || !dynamic_cast<forms::TextBox*>(ActiveControl())) return;
+    forms::SendKeys("{TAB}");
+    KeyAscii = 0;
+}
+
 }

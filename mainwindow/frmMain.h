@@ -96,11 +96,12 @@ private:
 
     void Connect();
 
-    // Start and end
+    // Start and end, and the Enter key: frmMain.cpp
     void Form_Load();
     void Form_Unload();
+    void Form_KeyPress(short& KeyAscii);
 
-    // Calculation
+    // Calculation: frmMain_calculation.cpp
     void cmdCalcola_Click();
     void CompareTimes();
     void CompareMoments();
@@ -108,15 +109,16 @@ private:
     DayNumber TypedDate(int First) const;
     DateValue TypedTime(int First) const;
     void ShowWeekdays(DateValue StartDate, DateValue EndDate);
+
+    // Refusals of what was entered: frmMain_validation.cpp
     bool HasAllFields(int Mode) const;
     void ShowIncompleteData();
     bool ValidateDates();
-    void Form_KeyPress(short& KeyAscii);
+
+    // Results: frmMain_results.cpp
     void SetDati(Elapsed Which, const std::string& Caption) override;
     void SetTotali(Total Which, const std::string& Caption) override;
     void SetHourglass(bool Shown) override;
-
-    // Results
     struct Figure
     {
         const forms::Label& Label;
@@ -129,7 +131,7 @@ private:
     void OfferCopies();
     void CopyResults();
 
-    // Modes
+    // Modes and options: frmMain_modes.cpp
     void optDataTime_Click(int Index);
     void DisableAll();
     void EnableMode(int Index);
@@ -137,7 +139,7 @@ private:
     void chkWorkSat_Click();
     void lblChekBox_Click(int Index);
 
-    // Entry fields
+    // Entry fields: frmMain_dates.cpp, frmMain_times.cpp
     void Digits_KeyPress(int Index, short& KeyAscii);
     void txtData_Change(int Index);
     void txtData_GotFocus(int Index);
@@ -146,7 +148,7 @@ private:
     void txtTime_GotFocus(int Index);
     void txtTime_LostFocus(int Index);
 
-    // Calendar
+    // Calendar: frmMain_calendar.cpp
     void cmdNowData_Click(int Index);
     void ShowCalendar(int Index);
     void HideCalendar();
@@ -166,19 +168,19 @@ private:
     void GIORNO_MouseUp(int Index);
     void GIORNO_Click(int Index);
 
-    // Status strip and clock
+    // Status strip and clock: frmMain_strip.cpp
     void InitStatusStrip();
     void UpdateStatusStrip();
     void PrintCentred(forms::PictureBox& Panel, const std::string& Text);
     void cmdNowTime_Click(int Index);
 
-    // Balloons
+    // Balloons: frmMain_balloons.cpp
     const char* MeaningOfTotal(int Index) const;
     void DescribeTotals();
     void lblTotali_MouseMove(int Index);
     void CloseBalloons();
 
-    // Toolbar, pin and help
+    // Toolbar, pin and help: frmMain_toolbar.cpp
     enum ToolIcon { DateSettings, About, Help, SequentialSums };
     void picToolBarra_Click(int Index);
     void imgOnTop_Click();

@@ -37,6 +37,21 @@ std::vector<frmMain::Figure> frmMain::Figures() const
     return all;
 }
 
+void frmMain::SetDati(Elapsed Which, const std::string& Caption)
+{
+    lblDati[Which].SetCaption(Caption);
+}
+
+void frmMain::SetTotali(Total Which, const std::string& Caption)
+{
+    lblTotali[Which].SetCaption(Caption);
+}
+
+void frmMain::SetHourglass(bool Shown)
+{
+    forms::SetScreenPointer(Shown);
+}
+
 void frmMain::ClearResults()
 {
     for (auto& label : lblDati) label.SetCaption("");

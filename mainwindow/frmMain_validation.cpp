@@ -24,6 +24,26 @@ void Refuse(const char* Name, const std::string& Fault)
                     forms::Information, App::Title);
 }
 
+bool AllFilled(const forms::ControlArray<forms::TextBox>& Boxes)
+{
+    for (const auto& box : Boxes)
+        if (box.Text().empty()) return false;
+    return true;
+}
+
+}
+
+bool frmMain::HasAllFields(int Mode) const
+{
+    return (Mode == 2 || AllFilled(txtTime)) && (Mode == 0 || AllFilled(txtData));
+}
+
+void frmMain::ShowIncompleteData()
+{
+    System().MsgBox("      - Impossibile eseguire il calcolo: dati incompleti -  \r\n"
+                    "Verificare di aver inserito le date e/o le ore dove richiesto\r\n"
+                    "e riprovare.",
+                    forms::Information, App::Title);
 }
 
 bool frmMain::ValidateDates()

@@ -6,8 +6,6 @@
 #include "engine/DateTime.h"
 #include "engine/Moments.h"
 #include "engine/Text.h"
-#include "services/App.h"
-#include "services/Platform.h"
 
 namespace vellarno {
 
@@ -16,13 +14,6 @@ namespace {
 int Number(const forms::TextBox& Box)
 {
     return CInt(Box.Text()).value_or(0);
-}
-
-bool AllFilled(const forms::ControlArray<forms::TextBox>& Boxes)
-{
-    for (const auto& box : Boxes)
-        if (box.Text().empty()) return false;
-    return true;
 }
 
 }
@@ -96,42 +87,6 @@ void frmMain::ShowWeekdays(DateValue StartDate, DateValue EndDate)
 {
     lblWeekDay[0].SetCaption(WeekdayText(Weekday(StartDate, Sunday)));
     lblWeekDay[1].SetCaption(WeekdayText(Weekday(EndDate, Sunday)));
-}
-
-bool frmMain::HasAllFields(int Mode) const
-{
-    return (Mode == 2 || AllFilled(txtTime)) && (Mode == 0 || AllFilled(txtData));
-}
-
-void frmMain::ShowIncompleteData()
-{
-    System().MsgBox("      - Impossibile eseguire il calcolo: dati incompleti -  \r\n"
-                    "Verificare di aver inserito le date e/o le ore dove richiesto\r\n"
-                    "e riprovare.",
-                    forms::Information, App::Title);
-}
-
-void frmMain::Form_KeyPress(short& KeyAscii)
-{
-    constexpr short Enter = 13;
-    if (KeyAscii != Enter || !dynamic_cast<forms::TextBox*>(ActiveControl())) return;
-    forms::SendKeys("{TAB}");
-    KeyAscii = 0;
-}
-
-void frmMain::SetDati(Elapsed Which, const std::string& Caption)
-{
-    lblDati[Which].SetCaption(Caption);
-}
-
-void frmMain::SetTotali(Total Which, const std::string& Caption)
-{
-    lblTotali[Which].SetCaption(Caption);
-}
-
-void frmMain::SetHourglass(bool Shown)
-{
-    forms::SetScreenPointer(Shown);
 }
 
 }
