@@ -88,7 +88,7 @@ void frmMain::Form_Load()
     OfferCopies();
     ShowCalendar(-1);
     imgGradiente.Move(0, -1, picOption.Width() - 1, picOption.Height() - 1);
-    optDataTime[0].SetValue(true);
+    optDataTime[Times].SetValue(true);
     imgBorder.SetHeight(107);
     imgBorder.SetTop(115);
     SetCaption(std::string(App::Title) + ' ' + CStr(App::Major) + '.' + CStr(App::Minor));

@@ -40,6 +40,9 @@ public:
     void Timer1_Timer();
 
 private:
+    /// What is compared, as the options are numbered.
+    enum Mode { Times, Moments, Dates };
+
     // The entry rows
     forms::ControlArray<forms::PictureBox> PicData{*this, "PicData"};
     forms::ControlArray<forms::TextBox> txtData{*this, "txtData"};
@@ -111,7 +114,7 @@ private:
     void ShowWeekdays(DateValue StartDate, DateValue EndDate);
 
     // Refusals of what was entered: frmMain_validation.cpp
-    bool HasAllFields(int Mode) const;
+    bool HasAllFields(Mode Of) const;
     void ShowIncompleteData();
     bool ValidateDates();
 
@@ -132,6 +135,7 @@ private:
     void CopyResults();
 
     // Modes and options: frmMain_modes.cpp
+    Mode ChosenMode() const;
     void optDataTime_Click(int Index);
     void DisableAll();
     void EnableMode(int Index);

@@ -21,32 +21,24 @@ int Number(const forms::TextBox& Box)
 void frmMain::cmdCalcola_Click()
 {
     CloseCalendar();
-    if (optDataTime[0].Value())
+    const Mode mode = ChosenMode();
+    if (!HasAllFields(mode))
+        ShowIncompleteData();
+    else if (mode == Times)
         CompareTimes();
-    else if (optDataTime[1].Value())
-        CompareMoments();
-    else if (optDataTime[2].Value())
-        CompareDates();
+    else if (ValidateDates())
+        mode == Moments ? CompareMoments() : CompareDates();
     AnnounceResults();
 }
 
 void frmMain::CompareTimes()
 {
-    if (!HasAllFields(0)) {
-        ShowIncompleteData();
-        return;
-    }
     const DayNumber today = Date(); // one reading for both: midnight can't come between them
     CalcTimes(today + TypedTime(0), today + TypedTime(3), TypedTime(3), *this);
 }
 
 void frmMain::CompareMoments()
 {
-    if (!HasAllFields(1)) {
-        ShowIncompleteData();
-        return;
-    }
-    if (!ValidateDates()) return;
     const Moment start{TypedDate(0), TypedTime(0)};
     const Moment end{TypedDate(3), TypedTime(3)};
     ShowWeekdays(start.Value(), end.Value());
@@ -57,11 +49,6 @@ void frmMain::CompareMoments()
 
 void frmMain::CompareDates()
 {
-    if (!HasAllFields(2)) {
-        ShowIncompleteData();
-        return;
-    }
-    if (!ValidateDates()) return;
     DayNumber start = TypedDate(0);
     DayNumber end = TypedDate(3);
     ShowWeekdays(start, end);

@@ -7,8 +7,6 @@ namespace vellarno {
 
 namespace {
 
-enum Mode { Times, Moments, Dates };
-
 constexpr const char* ModeNames[] = {"Calcolo tra ore", "Calcolo tra date e ore",
                                      "Calcolo tra date"};
 
@@ -36,6 +34,11 @@ void EmptyAndDisable(const forms::ControlArray<forms::TextBox>& Boxes)
     }
 }
 
+}
+
+frmMain::Mode frmMain::ChosenMode() const
+{
+    return optDataTime[Times].Value() ? Times : optDataTime[Moments].Value() ? Moments : Dates;
 }
 
 void frmMain::optDataTime_Click(int Index)
@@ -113,7 +116,7 @@ void frmMain::chkWorkSat_Click()
     const unsigned int color = SaturdayIsHoliday ? forms::PureRed : forms::Black;
     lblTotali[Saturdays].SetForeColor(color);
     CaptionOf(Saturdays).SetForeColor(color);
-    if (HasAllFields(Moments) && HasAllFields(Dates))
+    if (HasAllFields(Moments))
         cmdCalcola_Click();
     else
         ClearResults();

@@ -33,9 +33,9 @@ bool AllFilled(const forms::ControlArray<forms::TextBox>& Boxes)
 
 }
 
-bool frmMain::HasAllFields(int Mode) const
+bool frmMain::HasAllFields(Mode Of) const
 {
-    return (Mode == 2 || AllFilled(txtTime)) && (Mode == 0 || AllFilled(txtData));
+    return (Of == Dates || AllFilled(txtTime)) && (Of == Times || AllFilled(txtData));
 }
 
 void frmMain::ShowIncompleteData()
