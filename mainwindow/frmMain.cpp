@@ -2,7 +2,6 @@
 
 #include "engine/Text.h"
 #include "mainwindow/Segments.h"
-#include "resources/Resources.h"
 #include "services/App.h"
 #include "services/GenericBas.h"
 #include "services/Platform.h"
@@ -76,8 +75,7 @@ void frmMain::Form_Load()
     InitStatusStrip();
     SetHandCursor(*this);
     for (auto& caption : lblChekBox) caption.FitWidth();
-    imgOnTop.SetMousePointer(forms::CustomPointer);
-    imgOnTop.SetMouseIcon(resources::HandCursor);
+    SetHandCursor(imgOnTop);
     imgOnTop.SetPicture(resources::Path(resources::Pin::Off));
     imgOnTop.SetPressed(false);
     BalloonTip.emplace();

@@ -4,7 +4,7 @@
 #include "engine/DateTime.h"
 #include "engine/Holidays.h"
 #include "engine/Text.h"
-#include "resources/Resources.h"
+#include "services/GenericBas.h"
 #include "services/forms/Accessibility.h"
 
 #include <algorithm>
@@ -56,12 +56,8 @@ void frmMain::cmdNowData_Click(int Index)
 /// Prepares the panel for an entry, or for today's month with Index -1; it stays hidden.
 void frmMain::ShowCalendar(int Index)
 {
-    for (auto& cell : GIORNO) {
-        cell.SetMousePointer(forms::CustomPointer);
-        cell.SetMouseIcon(resources::HandCursor);
-    }
-    hscDataScroll.SetMousePointer(forms::CustomPointer);
-    hscDataScroll.SetMouseIcon(resources::HandCursor);
+    for (auto& cell : GIORNO) SetHandCursor(cell);
+    SetHandCursor(hscDataScroll);
     HideCalendar();
     shpShadow.Move(picCalendario.Left() + ShadowOffset, picCalendario.Top() + ShadowOffset,
                    picCalendario.Width(), picCalendario.Height());

@@ -3,7 +3,7 @@
 #include "engine/Clock.h"
 #include "engine/DateTime.h"
 #include "engine/Text.h"
-#include "resources/Resources.h"
+#include "services/GenericBas.h"
 #include "services/forms/Accessibility.h"
 
 namespace vellarno {
@@ -88,10 +88,7 @@ void frmMain::UpdateStatusStrip()
         panel.SetAccessibleName(std::string(meaning) + ": " + text);
         PrintCentred(panel, text);
     }
-    for (auto& icon : picToolBarra) {
-        icon.SetMousePointer(forms::CustomPointer);
-        icon.SetMouseIcon(resources::HandCursor);
-    }
+    for (auto& icon : picToolBarra) SetHandCursor(icon);
 }
 
 void frmMain::PrintCentred(forms::PictureBox& Panel, const std::string& Text)

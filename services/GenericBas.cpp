@@ -11,15 +11,19 @@ namespace vellarno {
 
 bool OnTopFlag = false;
 
+void SetHandCursor(forms::Control& Control)
+{
+    Control.SetMousePointer(forms::CustomPointer);
+    Control.SetMouseIcon(resources::HandCursor);
+}
+
 void SetHandCursor(const forms::Form& Form)
 {
     for (forms::Control* control : Form.Controls()) {
         const bool pressed = dynamic_cast<forms::CheckBox*>(control) ||
                              dynamic_cast<forms::OptionButton*>(control) ||
                              dynamic_cast<forms::CommandButton*>(control);
-        if (!pressed) continue;
-        control->SetMousePointer(forms::CustomPointer);
-        control->SetMouseIcon(resources::HandCursor);
+        if (pressed) SetHandCursor(*control);
     }
 }
 

@@ -11,7 +11,9 @@ namespace vellarno {
 /// when they load. Not stored between runs.
 extern bool OnTopFlag;
 
-/// Gives the hand cursor to the form's check boxes, option buttons and command buttons.
+/// The hand cursor over what can be pressed.
+void SetHandCursor(forms::Control& Control);
+/// The same over the form's check boxes, option buttons and command buttons.
 void SetHandCursor(const forms::Form& Form);
 
 /// Starts a sound of the resources, serves the pending events and returns while it still plays.

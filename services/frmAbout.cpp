@@ -2,7 +2,6 @@
 
 #include "engine/Clock.h"
 #include "engine/Text.h"
-#include "resources/Resources.h"
 #include "services/App.h"
 #include "services/Endpoints.h"
 #include "services/GenericBas.h"
@@ -22,12 +21,6 @@ constexpr const char* Disclaimer =
 /// Where the site's name stands on the banner, beside the globe.
 constexpr int BannerTextLeft = 32;
 constexpr int BannerTextTop = 7;
-
-void MakeLink(forms::Control& Control)
-{
-    Control.SetMousePointer(forms::CustomPointer);
-    Control.SetMouseIcon(resources::HandCursor);
-}
 
 }
 
@@ -64,8 +57,8 @@ void frmAbout::ShowLinks()
     imgsito.SetCurrentX(BannerTextLeft);
     imgsito.SetCurrentY(BannerTextTop);
     imgsito.Print(endpoints::WebSiteName);
-    MakeLink(lblEmail);
-    MakeLink(imgsito);
+    SetHandCursor(lblEmail);
+    SetHandCursor(imgsito);
 }
 
 void frmAbout::ShowToday()
