@@ -1,7 +1,6 @@
 #include "mainwindow/frmMain.h"
 
 #include "engine/Text.h"
-#include "mainwindow/Segments.h"
 #include "services/App.h"
 #include "services/GenericBas.h"
 #include "services/Platform.h"
@@ -18,9 +17,7 @@ constexpr int ClockInterval = 400; // milliseconds
 
 }
 
-frmMain::frmMain()
-    : Designed(forms::FormBorder::FixedSingle), DateField(txtData, DateSegments),
-      TimeField(txtTime, TimeSegments)
+frmMain::frmMain() : Designed(forms::FormBorder::FixedSingle)
 {
     Connect();
 }
@@ -41,11 +38,9 @@ void frmMain::Connect()
     chkWorkSat.Click = [this] { chkWorkSat_Click(); };
     lblChekBox.Connect(&Label::Click, this, &frmMain::lblChekBox_Click);
 
-    txtData.Connect(&TextBox::KeyPress, this, &frmMain::Digits_KeyPress);
     txtData.Connect(&TextBox::Change, this, &frmMain::txtData_Change);
     txtData.Connect(&TextBox::GotFocus, this, &frmMain::txtData_GotFocus);
     txtData.Connect(&TextBox::LostFocus, this, &frmMain::txtData_LostFocus);
-    txtTime.Connect(&TextBox::KeyPress, this, &frmMain::Digits_KeyPress);
     txtTime.Connect(&TextBox::Change, this, &frmMain::txtTime_Change);
     txtTime.Connect(&TextBox::GotFocus, this, &frmMain::txtTime_GotFocus);
     txtTime.Connect(&TextBox::LostFocus, this, &frmMain::txtTime_LostFocus);

@@ -94,8 +94,10 @@ private:
     std::optional<StatusBar> StatusStrip;
     std::optional<CTooltip> BalloonTip;
     forms::FormRef<frmMiniCalc> Sums;
-    SegmentedField DateField;
-    SegmentedField TimeField;
+    static const std::array<Segment, 6> DateRules;
+    static const std::array<Segment, 6> TimeRules;
+    const SegmentedField DateField{txtData, DateRules};
+    const SegmentedField TimeField{txtTime, TimeRules};
 
     void Connect();
 
@@ -144,7 +146,6 @@ private:
     void lblChekBox_Click(int Index);
 
     // Entry fields: frmMain_dates.cpp, frmMain_times.cpp
-    void Digits_KeyPress(int Index, short& KeyAscii);
     void txtData_Change(int Index);
     void txtData_GotFocus(int Index);
     void txtData_LostFocus(int Index);

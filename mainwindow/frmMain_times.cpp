@@ -2,6 +2,10 @@
 
 namespace vellarno {
 
+// Zero is a value like any other.
+const std::array<Segment, 6> frmMain::TimeRules = {
+    {{23, 2, 1}, {59, 2, 2}, {59, 2, 3}, {23, 2, 4}, {59, 2, 5}, {59, 2, Segment::End}}};
+
 void frmMain::txtTime_Change(int Index)
 {
     ClearResults();

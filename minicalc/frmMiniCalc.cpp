@@ -94,15 +94,13 @@ void frmMiniCalc::Connect()
     cmdSommaOre.Click = [this] { cmdSommaOre_Click(); };
     txtCalc.Connect(&forms::TextBox::Change, this, &frmMiniCalc::txtCalc_Change);
     txtCalc.Connect(&forms::TextBox::GotFocus, this, &frmMiniCalc::txtCalc_GotFocus);
-    txtCalc.Connect(&forms::TextBox::KeyPress, this, &frmMiniCalc::txtCalc_KeyPress);
 
     cmdSommaData.Click = [this] { cmdSommaData_Click(); };
     txtData.Connect(&forms::TextBox::Change, this, &frmMiniCalc::txtData_Change);
     txtData.Connect(&forms::TextBox::GotFocus, this, &frmMiniCalc::txtData_GotFocus);
     txtData.Connect(&forms::TextBox::LostFocus, this, &frmMiniCalc::txtData_LostFocus);
-    txtData.Connect(&forms::TextBox::KeyPress, this, &frmMiniCalc::txtData_KeyPress);
     txtSommaDati.GotFocus = [this] { txtSommaDati_GotFocus(); };
-    txtSommaDati.KeyPress = [this](short& KeyAscii) { txtSommaDati_KeyPress(KeyAscii); };
+    txtSommaDati.KeyPress = FilterDigits;
 }
 
 void frmMiniCalc::Form_Load()

@@ -59,7 +59,6 @@ private:
     void cmdSommaOre_Click();
     void txtCalc_Change(int Index);
     void txtCalc_GotFocus(int Index);
-    void txtCalc_KeyPress(int Index, short& KeyAscii);
     ClockTime ReadTime(int First, int Sign) const;
 
     // The running date
@@ -67,9 +66,7 @@ private:
     void txtData_Change(int Index);
     void txtData_GotFocus(int Index);
     void txtData_LostFocus(int Index);
-    void txtData_KeyPress(int Index, short& KeyAscii);
     void txtSommaDati_GotFocus();
-    void txtSommaDati_KeyPress(short& KeyAscii);
     void RefuseYear();
     std::string TypedDate() const;
     void ShowDate(DateValue Value);

@@ -103,19 +103,9 @@ void frmMiniCalc::txtData_LostFocus(int Index)
     if (Index != YearField) DateFields.Pad(Index);
 }
 
-void frmMiniCalc::txtData_KeyPress(int, short& KeyAscii)
-{
-    FilterDigits(KeyAscii);
-}
-
 void frmMiniCalc::txtSommaDati_GotFocus()
 {
     txtSommaDati.Select(0, static_cast<int>(txtSommaDati.Text().size()));
-}
-
-void frmMiniCalc::txtSommaDati_KeyPress(short& KeyAscii)
-{
-    FilterDigits(KeyAscii);
 }
 
 }

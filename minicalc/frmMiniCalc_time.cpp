@@ -74,9 +74,4 @@ void frmMiniCalc::txtCalc_GotFocus(int Index)
     TimeFields.Select(Index);
 }
 
-void frmMiniCalc::txtCalc_KeyPress(int, short& KeyAscii)
-{
-    FilterDigits(KeyAscii);
-}
-
 }

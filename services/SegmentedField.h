@@ -21,6 +21,9 @@ struct Segment
     bool RefusesZeros = false; ///< "00" is no value here
 };
 
+/// Lets digits and backspace through; any other key has no effect.
+void FilterDigits(short& KeyAscii);
+
 /// A date or a time typed digit by digit into a row of boxes. A value that a box can't take is
 /// emptied with a beep, never corrected; a full box sends the focus on.
 class SegmentedField
@@ -31,7 +34,9 @@ public:
     SegmentedField(const forms::ControlArray<forms::TextBox>& Boxes, std::span<const Segment> Rules,
                    forms::Control* After = nullptr)
         : boxes(Boxes), rules(Rules), after(After)
-    {}
+    {
+        for (auto& box : Boxes) box.KeyPress = FilterDigits;
+    }
 
     /// Every change of a box's text. The writes that it makes raise the change again, inside.
     /// @param AfterRefusal  runs when a value above the limit has been emptied.
@@ -46,8 +51,5 @@ private:
     std::span<const Segment> rules;
     forms::Control* after;
 };
-
-/// Lets digits and backspace through; any other key has no effect.
-void FilterDigits(short& KeyAscii);
 
 }
