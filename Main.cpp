@@ -21,7 +21,7 @@ int Main(forms::Application& Application)
         return 0;
     }
     // A lost display ends the process from within the toolkit, past the window's own end.
-    std::atexit([] { DeletePrivateFile(GetTempDirectory() + HelpFileName); });
+    std::atexit([] { DeletePrivateFile(HelpFilePath()); });
     frmMain window;
     Application.OnEndRequest([&window] { window.Close(); });
     window.Show();

@@ -90,7 +90,7 @@ void frmMain::Form_Load()
 
 void frmMain::Form_Unload()
 {
-    DeletePrivateFile(GetTempDirectory() + HelpFileName);
+    DeletePrivateFile(HelpFilePath());
     StatusStrip.reset();
     BalloonTip.reset();
     UnloadAll();

@@ -38,7 +38,7 @@ void frmMain::imgOnTop_Click()
 
 void frmMain::ShowHelp()
 {
-    const std::string path = GetTempDirectory() + HelpFileName;
+    const std::string path = HelpFilePath();
     bool written = WritePrivateFile(path, "");
     forms::DoEvents();
     if (!Visible()) return; // the program has ended meanwhile and has tidied up

@@ -1,6 +1,7 @@
 #include "services/GenericBas.h"
 
 #include "services/Platform.h"
+#include "services/PrivateFile.h"
 #include "services/forms/CheckBox.h"
 #include "services/forms/CommandButton.h"
 #include "services/forms/OptionButton.h"
@@ -42,6 +43,11 @@ std::string GetTempDirectory()
 {
     const std::string folder = System().PrivateFolder();
     return folder.empty() ? folder : folder + '/';
+}
+
+std::string HelpFilePath()
+{
+    return GetTempDirectory() + HelpFileName;
 }
 
 bool FileExists(const std::string& Path)

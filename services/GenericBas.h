@@ -27,6 +27,9 @@ void SetAlwaysOnTop(forms::Form& Form, bool OnTop);
 /// added, or the empty string if the system has no temporary folder.
 std::string GetTempDirectory();
 
+/// Where the help page's file lies while the program runs.
+std::string HelpFilePath();
+
 /// Whether the path names something that isn't a folder. No error leaves it.
 bool FileExists(const std::string& Path);
 
