@@ -21,15 +21,6 @@ constexpr const char* NoDateText =
 
 }
 
-std::optional<DateValue> StepDate(std::string_view Date, const DateUnit& Unit,
-                                  std::string_view Quantity, bool Subtract)
-{
-    const auto start = CDate(Date);
-    const auto number = CInt(Quantity);
-    if (!start || !number) return std::nullopt;
-    return DateAdd(Unit.Interval, Subtract ? -*number : *number, *start);
-}
-
 const std::array<Segment, 3> frmMiniCalc::DateRules = {
     {{31, 2, MonthField}, {12, 2, YearField}, {2300, 4, Segment::End}}};
 

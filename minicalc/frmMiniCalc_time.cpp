@@ -1,4 +1,3 @@
-#include "engine/DateTime.h"
 #include "engine/Text.h"
 #include "minicalc/Accumulators.h"
 #include "minicalc/frmMiniCalc.h"
@@ -14,19 +13,6 @@ constexpr int Fields = 6;
 /// Each field cuts it to the digits that it holds.
 constexpr const char* Zero = "000";
 
-DateValue Move(DateValue Moment, ClockTime Step)
-{
-    Moment = DateAdd("h", Step.Hours, Moment).value();
-    Moment = DateAdd("n", Step.Minutes, Moment).value();
-    return DateAdd("s", Step.Seconds, Moment).value();
-}
-
-}
-
-ClockTime AddOnClock(ClockTime Total, ClockTime Step)
-{
-    const DateValue moment = Move(Move(0, Total), Step);
-    return {Hour(moment), Minute(moment), Second(moment)};
 }
 
 // The value's minutes and seconds have no limit but their digits.
