@@ -15,13 +15,13 @@ void frmMain::picToolBarra_Click(int Index)
     HideCalendar();
     switch (Index) {
     case DateSettings: StartDateSettings(); break;
-    case About: (new frmAbout)->ShowModal(*this); break; // deletes itself when closed
+    case About: NewOwned<frmAbout>().ShowModal(); break;
     case Help: ShowHelp(); break;
     case SequentialSums:
         PlayResSound(resources::Sound::Opening);
-        if (!Visible()) break;                        // closed while the sound served events
-        if (!Sums.Open()) Sums.Set(*new frmMiniCalc); // deletes itself when closed
-        Sums->Show(this);
+        if (!Visible()) break; // closed while the sound served events
+        if (!Sums.Open()) Sums.Set(NewOwned<frmMiniCalc>());
+        Sums->Show();
         break;
     default: break;
     }

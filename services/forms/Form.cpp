@@ -79,15 +79,8 @@ void Form::Place()
     setGeometry(place.marginsRemoved(frame));
 }
 
-void Form::TakeOwner(Form* Owner)
+void Form::Show()
 {
-    if (!Owner || parentWidget() == Owner) return;
-    setParent(Owner, windowFlags());
-}
-
-void Form::Show(Form* Owner)
-{
-    TakeOwner(Owner);
     if (!LoadOnce()) return;
     if (!isVisible()) {
         Place();
@@ -99,9 +92,8 @@ void Form::Show(Form* Owner)
     activateWindow();
 }
 
-void Form::ShowModal(Form& Owner)
+void Form::ShowModal()
 {
-    TakeOwner(&Owner);
     setWindowModality(Qt::ApplicationModal);
     if (!LoadOnce()) return;
     QEventLoop loop;

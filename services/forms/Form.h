@@ -29,12 +29,19 @@ public:
     explicit Form(FormBorder Border);
     ~Form() override;
 
+    /// A further window, above this one. This one owns it: it goes with it, or by itself once it
+    /// has been closed and its events are served.
+    template <class FormClass>
+    FormClass& NewOwned()
+    {
+        auto* made = new FormClass;
+        made->setParent(this, made->windowFlags());
+        return *made;
+    }
     /// Runs Load at the first call, then shows the window; shown already, it comes forward.
-    /// An owned window stays above its owner and goes with it.
-    void Show(Form* Owner = nullptr);
-    /// The same, and returns when the window has been closed; its owner waits meanwhile.
-    void ShowModal(Form& Owner);
-    /// Closes the window. A window other than the first is destroyed once its events are served.
+    void Show();
+    /// The same, and returns when the window has been closed; all others wait meanwhile.
+    void ShowModal();
     void Close() { close(); }
     /// Closes every window of the program, message boxes too.
     static void UnloadAll();
@@ -83,7 +90,6 @@ private:
     void FocusMoved(Control& To, const QFocusEvent& Event);
     /// @return false if the window was closed meanwhile.
     bool LoadOnce();
-    void TakeOwner(Form* Owner);
     void Place();
 
     const FormBorder border;
