@@ -99,10 +99,9 @@ void frmMain::Form_Unload()
 
 void frmMain::Form_KeyPress(short& KeyAscii)
 {
-    constexpr short Enter = 13;
-    if (KeyAscii != Enter || !dynamic_cast<forms::TextBox*>(ActiveControl())) return;
+    if (KeyAscii != forms::KeyEnter || !dynamic_cast<forms::TextBox*>(ActiveControl())) return;
     forms::SendKeys("{TAB}");
-    KeyAscii = 0;
+    KeyAscii = forms::KeyDropped;
 }
 
 }

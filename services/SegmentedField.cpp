@@ -51,9 +51,8 @@ void SegmentedField::Select(int Index) const
 
 void FilterDigits(short& KeyAscii)
 {
-    constexpr short Backspace = 8;
-    constexpr short NoEffect = 1;
-    if (KeyAscii != Backspace && (KeyAscii < '0' || KeyAscii > '9')) KeyAscii = NoEffect;
+    const bool digit = KeyAscii >= '0' && KeyAscii <= '9';
+    if (!digit && KeyAscii != forms::KeyBackspace) KeyAscii = forms::KeyNothing;
 }
 
 }

@@ -16,17 +16,15 @@ namespace vellarno::forms {
 
 namespace {
 
-constexpr short KeyNothing = 1;
-constexpr short KeyDropped = 0;
-
 /// The character code of a key press: control characters as their codes, 0 for a key without one.
 short CharacterCode(const QKeyEvent& Event)
 {
     switch (Event.key()) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: return 13;
+    case Qt::Key_Enter: return KeyEnter;
     case Qt::Key_Escape: return 27;
-    case Qt::Key_Backspace: return Event.modifiers().testFlag(Qt::ControlModifier) ? 127 : 8;
+    case Qt::Key_Backspace:
+        return Event.modifiers().testFlag(Qt::ControlModifier) ? 127 : KeyBackspace;
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
     case Qt::Key_Delete: return 0;

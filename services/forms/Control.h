@@ -27,6 +27,9 @@ enum MousePointer {
 /// Keys without a character, and the two that press a control.
 enum class Key { Other, Left, Right, Up, Down, PageUp, PageDown, Home, End, Enter, Space };
 
+/// What stands in KeyAscii beside characters; a handler of KeyPress writes one of the first two.
+enum : short { KeyDropped = 0, KeyNothing = 1, KeyBackspace = 8, KeyEnter = 13 };
+
 /// An entry of the menu that a right click on a control opens.
 struct MenuEntry
 {
@@ -47,7 +50,7 @@ public:
     std::function<void()> Click;
     /// Comes before KeyPress, for a key alone. True: the key goes no further.
     std::function<bool(Key Pressed)> KeyDown;
-    /// The handler may replace KeyAscii: 1 inserts nothing, 0 drops the key.
+    /// The handler may replace KeyAscii: KeyNothing inserts nothing, KeyDropped drops the key.
     std::function<void(short& KeyAscii)> KeyPress;
 
     virtual ~Control() = default;
