@@ -175,7 +175,7 @@ private:
 
     // Status strip and clock: frmMain_strip.cpp
     void InitStatusStrip();
-    void UpdateStatusStrip();
+    void UpdateStatusStrip(DayNumber Today);
     void PrintCentred(forms::PictureBox& Panel, const std::string& Text);
     void cmdNowTime_Click(int Index);
 

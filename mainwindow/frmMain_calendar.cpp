@@ -61,8 +61,9 @@ void frmMain::ShowCalendar(int Index)
     HideCalendar();
     shpShadow.Move(picCalendario.Left() + ShadowOffset, picCalendario.Top() + ShadowOffset,
                    picCalendario.Width(), picCalendario.Height());
-    CalMese = Month(Date());
-    CalAnno = Year(Date());
+    const DayNumber today = Date();
+    CalMese = Month(today);
+    CalAnno = Year(today);
     CalGiorno = 0;
     if (Index >= 0) {
         CalGiorno = CInt(txtData[Index * 3].Text()).value_or(0);
@@ -74,7 +75,7 @@ void frmMain::ShowCalendar(int Index)
         }
     }
     if (CalGiorno < 1 || CalGiorno > LastDay())
-        CalGiorno = CalMese == Month(Date()) && CalAnno == Year(Date()) ? Day(Date()) : 1;
+        CalGiorno = CalMese == Month(today) && CalAnno == Year(today) ? Day(today) : 1;
     hscDataScroll.SetValue(CalMese);
     FillCalendar(CalMese, CalAnno);
 }

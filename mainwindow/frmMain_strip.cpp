@@ -6,6 +6,8 @@
 #include "services/GenericBas.h"
 #include "services/forms/Accessibility.h"
 
+#include <utility>
+
 namespace vellarno {
 
 namespace {
@@ -59,18 +61,16 @@ void frmMain::InitStatusStrip()
 
 void frmMain::Timer1_Timer()
 {
-    if (Day(Date()) != UltimoGiorno) {
-        UltimoGiorno = Day(Date());
-        UpdateStatusStrip();
-    }
-    const std::string time = Format(Now(), "hh.mm.ss");
+    const DateValue now = Now();
+    if (std::exchange(UltimoGiorno, Day(now)) != Day(now)) UpdateStatusStrip(Int(now));
+    const std::string time = Format(now, "hh.mm.ss");
     if (picBarra[ClockPanel].PrintedText() == time) return; // two ticks or three in a second
     picBarra[ClockPanel].Cls();
     PrintCentred(picBarra[ClockPanel], time);
     picBarra[ClockPanel].SetAccessibleName("Ora: " + time);
 }
 
-void frmMain::UpdateStatusStrip()
+void frmMain::UpdateStatusStrip(DayNumber Today)
 {
     for (auto& panel : picBarra) {
         panel.Cls();
@@ -78,11 +78,11 @@ void frmMain::UpdateStatusStrip()
     }
     picBarra[DatePanel].SetMousePointer(forms::DefaultPointer);
     picBarra[ClockPanel].SetMousePointer(forms::DefaultPointer);
-    const std::string today = Format(Now(), " dddd  dd mmm yyyy");
+    const std::string today = Format(Today, " dddd  dd mmm yyyy");
     PrintCentred(picBarra[DatePanel], today);
     picBarra[DatePanel].SetAccessibleName("Data di oggi:" + today);
     int index = 0;
-    for (const auto& [text, meaning] : FiguresOf(Date())) {
+    for (const auto& [text, meaning] : FiguresOf(Today)) {
         forms::PictureBox& panel = picBarra[index++];
         panel.SetToolTipText(meaning);
         panel.SetAccessibleName(std::string(meaning) + ": " + text);

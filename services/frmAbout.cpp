@@ -63,8 +63,9 @@ void frmAbout::ShowLinks()
 
 void frmAbout::ShowToday()
 {
-    lblCalendario[0].SetCaption(Format(Now(), "mmm yy"));
-    lblCalendario[1].SetCaption(Format(Now(), "dd"));
+    const DayNumber today = Date();
+    lblCalendario[0].SetCaption(Format(today, "mmm yy"));
+    lblCalendario[1].SetCaption(Format(today, "dd"));
 }
 
 void frmAbout::cmdChiudi_Click()
