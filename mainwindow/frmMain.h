@@ -195,7 +195,4 @@ private:
 /// The two entries, as they are read aloud.
 inline constexpr const char* EndNames[] = {"Inizio", "Fine"};
 
-/// True exactly for the months 1 to 12 of the years that the calendar shows.
-bool IsCorrect(int Mese, int Anno);
-
 }

@@ -3,7 +3,6 @@
 #include "engine/CalcDates.h"
 #include "engine/CalcTimes.h"
 #include "engine/Clock.h"
-#include "engine/DateTime.h"
 #include "engine/Moments.h"
 #include "engine/Text.h"
 

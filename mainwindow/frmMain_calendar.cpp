@@ -1,7 +1,6 @@
 #include "mainwindow/frmMain.h"
 
 #include "engine/Clock.h"
-#include "engine/DateTime.h"
 #include "engine/Holidays.h"
 #include "engine/Text.h"
 #include "services/GenericBas.h"
@@ -32,11 +31,11 @@ std::string InCapitals(std::string Text)
     return Text;
 }
 
-}
-
 bool IsCorrect(int Mese, int Anno)
 {
     return Mese >= 1 && Mese <= 12 && Anno >= FirstYear && Anno <= LastYear;
+}
+
 }
 
 void frmMain::cmdNowData_Click(int Index)

@@ -1,7 +1,6 @@
 #include "mainwindow/frmMain.h"
 
 #include "engine/Clock.h"
-#include "engine/DateTime.h"
 #include "engine/Text.h"
 #include "services/GenericBas.h"
 #include "services/forms/Accessibility.h"

@@ -1,6 +1,5 @@
 #include "mainwindow/frmMain.h"
 
-#include "engine/DateTime.h"
 #include "engine/Text.h"
 #include "services/App.h"
 #include "services/Platform.h"

@@ -7,9 +7,6 @@
 #include "services/forms/Globals.h"
 #include "ui_frmMiniCalc.h"
 
-#include <array>
-#include <string>
-
 namespace vellarno {
 
 namespace {

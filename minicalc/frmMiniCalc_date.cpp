@@ -1,5 +1,4 @@
 #include "engine/Clock.h"
-#include "engine/DateTime.h"
 #include "engine/Text.h"
 #include "minicalc/Accumulators.h"
 #include "minicalc/frmMiniCalc.h"
