@@ -8,22 +8,16 @@ using namespace vellarno::test;
 struct TimeSum : testing::Test, SumsWindow
 {};
 
-struct Sum
-{
-    const char* Total;
-    const char* Value; ///< with its sign
-    const char* Result;
-};
-
 TEST_F(TimeSum, GoesRoundTheClock)
 {
-    const Sum rows[] = {{"235959", "+007501", "01:15:00"}, {"001000", "-010000", "23:10:00"}};
+    const std::array<std::string, 3> rows[] = {{"235959", "+007501", "01:15:00"},
+                                               {"001000", "-010000", "23:10:00"}};
     for (const auto& [total, value, result] : rows) {
         Enter(txtCalc[0], total);
         Enter(txtCalc[3], value);
         EXPECT_EQ(Focus(), "cmdSommaOre");
         Press(Qt::Key_Return);
-        EXPECT_EQ(Times(), std::string(result) + " 00:00:00") << total << value;
+        EXPECT_EQ(Times(), result + " 00:00:00") << total << value;
         EXPECT_EQ(Focus(), "txtCalc_3");
     }
 }
