@@ -22,7 +22,6 @@ int HolidaysOfYear(int Year, bool SaturdayIsHoliday, DayNumber End = LastDate + 
     const auto Counts = [&](DayNumber Holiday) {
         return Holiday < End && IsWeekdayOfWork(Holiday, SaturdayIsHoliday);
     };
-    // Where the computation fails, this is a Sunday and counts in nothing.
     const DayNumber Monday = EasterDate(Year) + 1;
     int Count = Counts(Monday) ? 1 : 0;
     for (const DayOfYear& Each : FixedHolidays) {

@@ -9,7 +9,7 @@ MomentPeriod OrderMoments(Moment First, Moment Second)
     if (First.Value() > Second.Value()) std::swap(First, Second);
     const auto StartTime = static_cast<float>(First.TimeOfDay);
     const auto EndTime = static_cast<float>(Second.TimeOfDay);
-    constexpr float Noon = 0.5F; // exactly 12:00:00 moves nothing
+    constexpr float Noon = 0.5F;
 
     DateValue CountedEnd = Second.Value();
     if (StartTime > EndTime) CountedEnd -= 1;

@@ -23,7 +23,8 @@ struct MomentPeriod
 
 /// The two moments in order, whichever was typed first, with the end for the count of days: a last
 /// day that isn't complete is taken off, and an afternoon end after a morning start is moved to the
-/// morning, so that both ends round to their own dates.
+/// morning, so that both ends round to their own dates. An end at exactly 12:00:00 is left in the
+/// middle of two days: rounding takes the even one, as often the day before as the day after.
 MomentPeriod OrderMoments(Moment First, Moment Second);
 
 }

@@ -85,7 +85,7 @@ void frmMain::HideCalendar()
     shpShadow.SetVisible(false);
 }
 
-/// The same, where the eye alone would notice.
+/// Hides it where something else does so by the way, and tells those who can't see it go.
 void frmMain::CloseCalendar()
 {
     if (picCalendario.Visible()) forms::Announce(*this, "Calendario chiuso");

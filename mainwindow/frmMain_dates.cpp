@@ -4,7 +4,7 @@ namespace vellarno {
 
 namespace {
 
-/// The first box of a row has nothing before it that waits to be filled.
+/// The first box of a date has none before it; a lone digit waits there for the month's box.
 bool IsDay(int Index)
 {
     return Index % 3 == 0;

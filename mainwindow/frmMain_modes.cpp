@@ -25,7 +25,7 @@ bool HoldsText(const forms::ControlArray<forms::TextBox>& Boxes)
     return false;
 }
 
-/// Each box's own change handling runs while it can still be used, and answers with its beep.
+/// A box is emptied while it can still be used: its change handling answers with a beep.
 void EmptyAndDisable(const forms::ControlArray<forms::TextBox>& Boxes)
 {
     for (auto& box : Boxes) {
