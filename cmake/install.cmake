@@ -58,7 +58,7 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # The libraries that the program is linked to name themselves. The font and the sound service are
 # found only while it runs.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, libcanberra0")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation")
 # A browser and a mail program; sounds where the desktop mixes them.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, libcanberra-pulse")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")
