@@ -1,7 +1,7 @@
 #include "services/GenericBas.h"
 
 #include "services/Platform.h"
-#include "services/PrivateFile.h"
+#include "services/platform/PrivateFile.h"
 #include "services/forms/CheckBox.h"
 #include "services/forms/CommandButton.h"
 #include "services/forms/OptionButton.h"
