@@ -4,9 +4,8 @@
 #include "services/App.h"
 #include "services/GenericBas.h"
 #include "services/Platform.h"
-#include "services/platform/PrivateFile.h"
 #include "services/forms/Application.h"
-#include "ui_frmMain.h"
+#include "services/platform/PrivateFile.h"
 
 namespace vellarno {
 
@@ -78,7 +77,7 @@ void frmMain::Form_Load()
     BalloonTip->SetIcon(1);
     BalloonTip->SetDelayTime(20);
     DescribeTotals();
-    OfferCopies();
+    PrepareResults();
     ShowCalendar(-1);
     imgGradiente.Move(0, -1, picOption.Width() - 1, picOption.Height() - 1);
     optDataTime[Times].SetValue(true);

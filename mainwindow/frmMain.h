@@ -17,15 +17,12 @@
 #include "services/forms/ScrollBar.h"
 #include "services/forms/TextBox.h"
 #include "services/forms/Timer.h"
+#include "ui_frmMain.h"
 
 #include <array>
 #include <optional>
 #include <string>
 #include <vector>
-
-namespace Ui {
-class frmMain;
-}
 
 namespace vellarno {
 
@@ -56,26 +53,26 @@ private:
     forms::ControlArray<forms::Label> lblTotali{*this, "lblTotali"};
     forms::ControlArray<forms::Label> lblWeekDay{*this, "lblWeekDay"};
     forms::ControlArray<forms::Label> lblLabel{*this, "lblLabel"};
-    forms::Image& imgBorder = Get<forms::Image>("imgBorder");
+    forms::Image& imgBorder = *ui.imgBorder;
 
     // The choices
-    forms::CheckBox& chkDayInt = Get<forms::CheckBox>("chkDayInt");
-    forms::CheckBox& chkWorkSat = Get<forms::CheckBox>("chkWorkSat");
+    forms::CheckBox& chkDayInt = *ui.chkDayInt;
+    forms::CheckBox& chkWorkSat = *ui.chkWorkSat;
     forms::ControlArray<forms::Label> lblChekBox{*this, "lblChekBox"};
-    forms::PictureBox& picOption = Get<forms::PictureBox>("picOption");
-    forms::Image& imgGradiente = Get<forms::Image>("imgGradiente");
+    forms::PictureBox& picOption = *ui.picOption;
+    forms::Image& imgGradiente = *ui.imgGradiente;
     forms::ControlArray<forms::Image> imgTipoCalcolo{*this, "imgTipoCalcolo"};
     forms::ControlArray<forms::OptionButton> optDataTime{*this, "optDataTime"};
-    forms::CommandButton& cmdCalcola = Get<forms::CommandButton>("cmdCalcola");
-    forms::Image& imgOnTop = Get<forms::Image>("imgOnTop");
+    forms::CommandButton& cmdCalcola = *ui.cmdCalcola;
+    forms::Image& imgOnTop = *ui.imgOnTop;
 
     // The calendar
-    forms::PictureBox& picCalendario = Get<forms::PictureBox>("picCalendario");
-    forms::Image& shpShadow = Get<forms::Image>("shpShadow");
-    forms::ScrollBar& hscDataScroll = Get<forms::ScrollBar>("hscDataScroll");
-    forms::TextBox& txtCalMeseAnno = Get<forms::TextBox>("txtCalMeseAnno");
-    forms::Image& shpOggi = Get<forms::Image>("shpOggi");
-    forms::Image& shpMarker = Get<forms::Image>("shpMarker");
+    forms::PictureBox& picCalendario = *ui.picCalendario;
+    forms::Image& shpShadow = *ui.shpShadow;
+    forms::ScrollBar& hscDataScroll = *ui.hscDataScroll;
+    forms::TextBox& txtCalMeseAnno = *ui.txtCalMeseAnno;
+    forms::Image& shpOggi = *ui.shpOggi;
+    forms::Image& shpMarker = *ui.shpMarker;
     forms::ControlArray<forms::Label> GIORNO{*this, "GIORNO"};
 
     // The status strip
@@ -133,7 +130,7 @@ private:
     forms::Label& CaptionOf(Total Which) const;
     void ClearResults();
     void AnnounceResults();
-    void OfferCopies();
+    void PrepareResults();
     void CopyResults();
 
     // Modes and options: frmMain_modes.cpp

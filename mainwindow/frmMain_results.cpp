@@ -65,8 +65,10 @@ void frmMain::AnnounceResults()
         if (!label.Caption().empty()) forms::Announce(*this, label.AccessibleName());
 }
 
-void frmMain::OfferCopies()
+void frmMain::PrepareResults()
 {
+    int index = 0;
+    for (const int caption : ElapsedCaptions) lblDati[index++].SetLegend(lblLabel[caption]);
     for (const auto* labels : {&lblWeekDay, &lblDati, &lblTotali})
         for (auto& label : *labels)
             label.SetMenu({{"Copia", [&label] { CopyCaption(label); }},

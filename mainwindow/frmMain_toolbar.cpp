@@ -3,10 +3,10 @@
 #include "services/App.h"
 #include "services/GenericBas.h"
 #include "services/Platform.h"
-#include "services/platform/PrivateFile.h"
 #include "services/SystemSettings.h"
 #include "services/forms/Accessibility.h"
 #include "services/frmAbout.h"
+#include "services/platform/PrivateFile.h"
 
 namespace vellarno {
 

@@ -5,7 +5,6 @@
 #include "services/Trasparency.h"
 #include "services/forms/Accessibility.h"
 #include "services/forms/Globals.h"
-#include "ui_frmMiniCalc.h"
 
 namespace vellarno {
 

@@ -8,13 +8,10 @@
 #include "services/forms/OptionButton.h"
 #include "services/forms/PictureBox.h"
 #include "services/forms/TextBox.h"
+#include "ui_frmMiniCalc.h"
 
 #include <array>
 #include <string>
-
-namespace Ui {
-class frmMiniCalc;
-}
 
 namespace vellarno {
 
@@ -87,17 +84,17 @@ private:
     // Entry and result
     forms::ControlArray<forms::TextBox> txtCalc{*this, "txtCalc"};
     forms::ControlArray<forms::TextBox> txtData{*this, "txtData"};
-    forms::TextBox& txtSommaDati = Get<forms::TextBox>("txtSommaDati");
-    forms::CommandButton& cmdSommaOre = Get<forms::CommandButton>("cmdSommaOre");
-    forms::CommandButton& cmdSommaData = Get<forms::CommandButton>("cmdSommaData");
+    forms::TextBox& txtSommaDati = *ui.txtSommaDati;
+    forms::CommandButton& cmdSommaOre = *ui.cmdSommaOre;
+    forms::CommandButton& cmdSommaData = *ui.cmdSommaData;
 
     // Texts
     forms::ControlArray<forms::Label> lblTime{*this, "lblTime"};
-    forms::Label& lblTitoloHelp = Get<forms::Label>("lblTitoloHelp");
-    forms::Label& lblHelpTxt = Get<forms::Label>("lblHelpTxt");
+    forms::Label& lblTitoloHelp = *ui.lblTitoloHelp;
+    forms::Label& lblHelpTxt = *ui.lblHelpTxt;
 
-    forms::CommandButton& cmdClear = Get<forms::CommandButton>("cmdClear");
-    forms::CommandButton& cmdChiudi = Get<forms::CommandButton>("cmdChiudi");
+    forms::CommandButton& cmdClear = *ui.cmdClear;
+    forms::CommandButton& cmdChiudi = *ui.cmdChiudi;
 
     static const std::array<Segment, 6> TimeRules;
     static const std::array<Segment, 3> DateRules;

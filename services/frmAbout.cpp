@@ -6,7 +6,6 @@
 #include "services/Endpoints.h"
 #include "services/GenericBas.h"
 #include "services/Platform.h"
-#include "ui_frmAbout.h"
 
 namespace vellarno {
 

@@ -4,10 +4,7 @@
 #include "services/forms/ControlArray.h"
 #include "services/forms/Label.h"
 #include "services/forms/PictureBox.h"
-
-namespace Ui {
-class frmAbout;
-}
+#include "ui_frmAbout.h"
 
 namespace vellarno {
 
@@ -27,12 +24,12 @@ private:
     void ShowLinks();
     void ShowToday();
 
-    forms::Label& lblVersione = Get<forms::Label>("lblVersione");
-    forms::Label& lblWarning = Get<forms::Label>("lblWarning");
+    forms::Label& lblVersione = *ui.lblVersione;
+    forms::Label& lblWarning = *ui.lblWarning;
     forms::ControlArray<forms::Label> lblCalendario{*this, "lblCalendario"};
-    forms::PictureBox& imgsito = Get<forms::PictureBox>("imgsito");
-    forms::Label& lblEmail = Get<forms::Label>("lblEmail");
-    forms::CommandButton& cmdChiudi = Get<forms::CommandButton>("cmdChiudi");
+    forms::PictureBox& imgsito = *ui.imgsito;
+    forms::Label& lblEmail = *ui.lblEmail;
+    forms::CommandButton& cmdChiudi = *ui.cmdChiudi;
 };
 
 }

@@ -51,8 +51,8 @@ void TypeIntoDateField(benchmark::State& State)
     frmMain window;
     window.Show();
     ShowAndSettle(window);
-    window.Get<forms::OptionButton>("optDataTime_2").SetValue(true);
-    auto& year = window.Get<forms::TextBox>("txtData_2");
+    window.findChild<forms::OptionButton*>("optDataTime_2")->SetValue(true);
+    auto& year = *window.findChild<forms::TextBox*>("txtData_2");
     year.SetFocus();
     int digit = 0;
     for (auto _ : State) TypeDigit(year, digit ^= 1);
@@ -78,9 +78,9 @@ void CalendarMonthStep(benchmark::State& State)
     frmMain window;
     window.Show();
     ShowAndSettle(window);
-    window.Get<forms::OptionButton>("optDataTime_2").SetValue(true);
-    window.Get<forms::CommandButton>("cmdNowData_0").click();
-    auto& months = window.Get<forms::ScrollBar>("hscDataScroll");
+    window.findChild<forms::OptionButton*>("optDataTime_2")->SetValue(true);
+    window.findChild<forms::CommandButton*>("cmdNowData_0")->click();
+    auto& months = *window.findChild<forms::ScrollBar*>("hscDataScroll");
     QApplication::processEvents();
     for (auto _ : State) {
         months.SetValue(months.Value() + 1);

@@ -5,7 +5,6 @@
 #include <QEventLoop>
 #include <QPointer>
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -69,14 +68,6 @@ public:
     void SetDefaultButton(CommandButton& Button) { defaultButton = &Button; }
     void SetCancelButton(CommandButton& Button) { cancelButton = &Button; }
 
-    /// The control of that name in the layout. A missing one is a fault of the program.
-    template <class ControlClass>
-    ControlClass& Get(const char* Name) const
-    {
-        if (auto* control = findChild<ControlClass*>(QLatin1String(Name))) return *control;
-        throw std::logic_error(Name);
-    }
-
 protected:
     bool event(QEvent* Event) override;
     void closeEvent(QCloseEvent* Event) override;
@@ -122,17 +113,18 @@ private:
     QPointer<FormClass> form;
 };
 
-/// A form laid out by a class that the .ui compiler made.
+/// A form laid out by a class that the .ui compiler made, with its controls as members of `ui`.
 template <class Layout>
 class Designed : public Form
 {
 protected:
     explicit Designed(FormBorder Border) : Form(Border)
     {
-        Layout layout;
-        layout.setupUi(this);
+        ui.setupUi(this);
         setFixedSize(size());
     }
+
+    Layout ui;
 };
 
 }

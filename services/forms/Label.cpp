@@ -70,8 +70,7 @@ void Label::paintEvent(QPaintEvent* Event)
     {
         QPainter painter(this);
         if (backOpaque) painter.fillRect(rect(), ColorOf(backColor));
-        const auto* explained = legend.isEmpty() ? this : parentWidget()->findChild<Label*>(legend);
-        DrawLook(painter, rect(), look, explained && explained->isEnabled(), false);
+        DrawLook(painter, rect(), look, legend->isEnabled(), false);
         DrawFocusMark(painter);
     }
     QLabel::paintEvent(Event);

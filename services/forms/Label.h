@@ -16,7 +16,6 @@ class Label : public ControlOf<QLabel>
     Q_PROPERTY(bool FontBold READ FontBold WRITE SetFontBold)
     Q_PROPERTY(unsigned int ForeColor READ ForeColor WRITE SetForeColor)
     Q_PROPERTY(bool Decoration READ Decoration WRITE SetDecoration)
-    Q_PROPERTY(QString Legend READ Legend WRITE SetLegend)
     Q_PROPERTY(QString AccessibleTitle READ AccessibleTitle WRITE SetAccessibleTitle)
 
 public:
@@ -39,9 +38,9 @@ public:
     /// A screen reader passes over it: another control says the same, or there is nothing to say.
     bool Decoration() const { return decoration; }
     void SetDecoration(bool IsDecoration) { decoration = IsDecoration; }
-    /// Name of the label that explains the figure: its box looks usable while that one is enabled.
-    QString Legend() const { return legend; }
-    void SetLegend(const QString& Name) { legend = Name; }
+    /// The label that explains the figure: its box looks usable while that one is enabled, whose
+    /// change repaints all that shares its container.
+    void SetLegend(const Label& Legend) { legend = &Legend; }
     /// What a screen reader says before the caption, which follows after a colon as it changes.
     QString AccessibleTitle() const { return accessibleTitle; }
     void SetAccessibleTitle(const QString& Title);
@@ -58,7 +57,7 @@ private:
     unsigned int backColor = WindowBackground;
     bool backOpaque = false;
     bool decoration = false;
-    QString legend;
+    const Label* legend = this;
     QString accessibleTitle;
 };
 
