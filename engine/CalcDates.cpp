@@ -17,41 +17,41 @@ constexpr int LongPeriod = 20000;
 
 DateFigures DateDifference(DateValue StartDate, DateValue EndDate)
 {
-    const int Y1 = Year(StartDate);
-    const int M1 = Month(StartDate);
-    const int D1 = Day(StartDate);
-    const int Y2 = Year(EndDate);
-    const int M2 = Month(EndDate);
-    const int D2 = Day(EndDate);
+    const int y1 = Year(StartDate);
+    const int m1 = Month(StartDate);
+    const int d1 = Day(StartDate);
+    const int y2 = Year(EndDate);
+    const int m2 = Month(EndDate);
+    const int d2 = Day(EndDate);
 
-    const bool YearIncomplete = DateSerial(Y2, M1, D1) > EndDate;
-    const bool Borrows = D1 > D2;
+    const bool yearIncomplete = DateSerial(y2, m1, d1) > EndDate;
+    const bool borrows = d1 > d2;
     // The start's month lends its days or, where both months are the same, the month before.
     // It may have fewer days than are taken from it: never less than 0 remain.
-    const int Lent = Borrows ? Day(DateSerial(Y2, M1 == M2 ? M1 : M1 + 1, 0)) : 0;
+    const int lent = borrows ? Day(DateSerial(y2, m1 == m2 ? m1 : m1 + 1, 0)) : 0;
 
-    return {.Years = Y2 - Y1 - (YearIncomplete ? 1 : 0),
-            .Months = (M2 - M1 - (Borrows ? 1 : 0) + 12) % 12,
-            .Days = std::max(Lent - D1 + D2, 0),
+    return {.Years = y2 - y1 - (yearIncomplete ? 1 : 0),
+            .Months = (m2 - m1 - (borrows ? 1 : 0) + 12) % 12,
+            .Days = std::max(lent - d1 + d2, 0),
             .TotalDays = static_cast<int>(std::abs(DateDiff("y", EndDate, StartDate))),
             .TotalWeeks = static_cast<int>(std::abs(DateDiff("ww", EndDate, StartDate, Monday)))};
 }
 
 void CalcDates(DateValue StartDate, DateValue EndDate, bool SaturdayIsHoliday, ResultLabels& Labels)
 {
-    const DateFigures Elapsed = DateDifference(StartDate, EndDate);
-    if (Elapsed.TotalDays > LongPeriod) Labels.SetHourglass(true);
-    const PeriodFigures Period = CountPeriod(CLng(StartDate), CLng(EndDate), SaturdayIsHoliday);
+    const DateFigures elapsed = DateDifference(StartDate, EndDate);
+    if (elapsed.TotalDays > LongPeriod) Labels.SetHourglass(true);
+    const PeriodFigures period = CountPeriod(CLng(StartDate), CLng(EndDate), SaturdayIsHoliday);
 
-    Labels.SetDati(ResultLabels::Years, Format(Elapsed.Years, "0,0"));
-    Labels.SetDati(ResultLabels::Months, Format(Elapsed.Months, "00"));
-    Labels.SetDati(ResultLabels::Days, Format(Elapsed.Days, "00"));
-    Labels.SetTotali(ResultLabels::TotalDays, Format(Elapsed.TotalDays, "0,0"));
-    Labels.SetTotali(ResultLabels::TotalWeeks, Format(Elapsed.TotalWeeks, "0,0"));
-    Labels.SetTotali(ResultLabels::Sundays, Format(Period.Sundays, "0,0"));
-    Labels.SetTotali(ResultLabels::Saturdays, Format(Period.Saturdays, "0,0"));
-    Labels.SetTotali(ResultLabels::Holidays, Format(Period.Holidays, "0,0"));
-    Labels.SetTotali(ResultLabels::WorkingDays, Format(Period.WorkingDays, "0,0"));
+    Labels.SetDati(ResultLabels::Years, Format(elapsed.Years, "0,0"));
+    Labels.SetDati(ResultLabels::Months, Format(elapsed.Months, "00"));
+    Labels.SetDati(ResultLabels::Days, Format(elapsed.Days, "00"));
+    Labels.SetTotali(ResultLabels::TotalDays, Format(elapsed.TotalDays, "0,0"));
+    Labels.SetTotali(ResultLabels::TotalWeeks, Format(elapsed.TotalWeeks, "0,0"));
+    Labels.SetTotali(ResultLabels::Sundays, Format(period.Sundays, "0,0"));
+    Labels.SetTotali(ResultLabels::Saturdays, Format(period.Saturdays, "0,0"));
+    Labels.SetTotali(ResultLabels::Holidays, Format(period.Holidays, "0,0"));
+    Labels.SetTotali(ResultLabels::WorkingDays, Format(period.WorkingDays, "0,0"));
     Labels.SetHourglass(false);
 }
 

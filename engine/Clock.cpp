@@ -9,20 +9,20 @@ namespace {
 
 DateValue SystemNow()
 {
-    const std::time_t Seconds = std::time(nullptr);
-    std::tm Local{};
+    const std::time_t seconds = std::time(nullptr);
+    std::tm local{};
     // The user may have changed the system's zone; localtime_r alone keeps to the first one. Where
     // the zone's file is the same this costs a look at it.
     tzset();
-    localtime_r(&Seconds, &Local);
-    return DateSerial(Local.tm_year + 1900, Local.tm_mon + 1, Local.tm_mday) +
-           TimeSerial(Local.tm_hour, Local.tm_min, Local.tm_sec);
+    localtime_r(&seconds, &local);
+    return DateSerial(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) +
+           TimeSerial(local.tm_hour, local.tm_min, local.tm_sec);
 }
 
 std::function<DateValue()>& CurrentClock()
 {
-    static std::function<DateValue()> Clock = SystemNow;
-    return Clock;
+    static std::function<DateValue()> clock = SystemNow;
+    return clock;
 }
 
 }

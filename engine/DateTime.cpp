@@ -28,8 +28,8 @@ DayNumber Serial(sys_days Day)
 
 int ClockSecond(DateValue x)
 {
-    const auto Seconds = static_cast<int>(std::lround((x - std::floor(x)) * SecondsPerDay));
-    return Seconds % SecondsPerDay;
+    const auto seconds = static_cast<int>(std::lround((x - std::floor(x)) * SecondsPerDay));
+    return seconds % SecondsPerDay;
 }
 
 DateValue AddSeconds(DateValue x, std::int64_t Number)
@@ -46,11 +46,11 @@ DateValue AddMonths(DateValue x, std::int64_t Number)
 {
     // No step within the valid dates is longer, and a longer one may overflow a 16-bit year.
     constexpr std::int64_t AllMonths = 120000;
-    const auto Start = CivilDate(x);
-    const auto Target =
-        Start.year() / Start.month() + months{std::clamp(Number, -AllMonths, AllMonths)};
-    const auto SameDay = Target / Start.day();
-    return Serial(SameDay.ok() ? sys_days{SameDay} : sys_days{Target / last}) + (x - std::floor(x));
+    const auto start = CivilDate(x);
+    const auto target =
+        start.year() / start.month() + months{std::clamp(Number, -AllMonths, AllMonths)};
+    const auto sameDay = target / start.day();
+    return Serial(sameDay.ok() ? sys_days{sameDay} : sys_days{target / last}) + (x - std::floor(x));
 }
 
 struct Step
@@ -73,8 +73,8 @@ constexpr std::array<Step, 7> Steps{{{"s", 1, AddSeconds},
 DayNumber DateSerial(int Year, int Month, int Day)
 {
     if (Year >= 0 && Year < 100) Year += Year < 30 ? 2000 : 1900;
-    const auto FirstMonth = year{Year} / January;
-    return Serial(sys_days{(FirstMonth + (months{Month} - months{1})) / 1} + days{Day} - days{1});
+    const auto firstMonth = year{Year} / January;
+    return Serial(sys_days{(firstMonth + (months{Month} - months{1})) / 1} + days{Day} - days{1});
 }
 
 DateValue TimeSerial(int Hours, int Minutes, int Seconds)
@@ -119,19 +119,19 @@ int Second(DateValue x)
 
 int Weekday(DateValue x, int First)
 {
-    const weekday Today{Epoch + days{Int(x)}};
-    return static_cast<int>((Today - weekday{static_cast<unsigned>(First - 1)}).count()) + 1;
+    const weekday today{Epoch + days{Int(x)}};
+    return static_cast<int>((today - weekday{static_cast<unsigned>(First - 1)}).count()) + 1;
 }
 
 std::optional<DateValue> DateAdd(std::string_view Interval, int Number, DateValue x)
 {
-    const auto* const Found = std::find_if(
+    const auto* const found = std::find_if(
         Steps.begin(), Steps.end(), [&](const Step& Each) { return Each.Interval == Interval; });
-    if (Found == Steps.end()) throw std::logic_error(std::string(Interval));
+    if (found == Steps.end()) throw std::logic_error(std::string(Interval));
 
-    const DateValue Result = Found->Add(x, std::int64_t{Number} * Found->Length);
-    if (Result < FirstDate || Result >= LastDate + 1) return std::nullopt;
-    return Result;
+    const DateValue result = found->Add(x, std::int64_t{Number} * found->Length);
+    if (result < FirstDate || result >= LastDate + 1) return std::nullopt;
+    return result;
 }
 
 std::int64_t DateDiff(std::string_view Interval, DateValue a, DateValue b, int First)
@@ -139,10 +139,10 @@ std::int64_t DateDiff(std::string_view Interval, DateValue a, DateValue b, int F
     if (Interval == "s") return std::llround((b - a) * SecondsPerDay);
     if (Interval == "d" || Interval == "y") return Int(b) - Int(a);
     if (Interval == "ww") {
-        const auto WeeksBefore = [First](DateValue x) {
+        const auto weeksBefore = [First](DateValue x) {
             return floor<weeks>(days{Int(x) - First});
         };
-        return (WeeksBefore(b) - WeeksBefore(a)).count();
+        return (weeksBefore(b) - weeksBefore(a)).count();
     }
     throw std::logic_error(std::string(Interval));
 }

@@ -27,11 +27,11 @@ bool IsHoliday(DayNumber Serial, DayNumber MondayNumber)
 {
     if (Weekday(Serial, Sunday) == Sunday) return true;
 
-    const int Mese = Month(Serial);
-    const int Giorno = Day(Serial);
-    if (Serial == MondayNumber && (Mese == 3 || Mese == 4)) return true;
+    const int mese = Month(Serial);
+    const int giorno = Day(Serial);
+    if (Serial == MondayNumber && (mese == 3 || mese == 4)) return true;
     return std::any_of(FixedHolidays.begin(), FixedHolidays.end(), [&](const DayOfYear& Each) {
-        return Each.Month == Mese && Each.Day == Giorno;
+        return Each.Month == mese && Each.Day == giorno;
     });
 }
 

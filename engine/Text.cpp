@@ -21,39 +21,39 @@ template <typename T>
 std::optional<T> ParseDigits(std::string_view Text)
 {
     if (!IsNumeric(Text)) return std::nullopt;
-    T Number{};
-    const auto Parsed = std::from_chars(Text.data(), Text.data() + Text.size(), Number);
-    if (Parsed.ec != std::errc{}) return std::nullopt;
-    return Number;
+    T number{};
+    const auto parsed = std::from_chars(Text.data(), Text.data() + Text.size(), number);
+    if (parsed.ec != std::errc{}) return std::nullopt;
+    return number;
 }
 
 std::string_view WithoutBlanks(std::string_view Text)
 {
-    const auto First = std::min(Text.find_first_not_of(' '), Text.size());
-    return Text.substr(First, Text.find_last_not_of(' ') + 1 - First);
+    const auto first = std::min(Text.find_first_not_of(' '), Text.size());
+    return Text.substr(first, Text.find_last_not_of(' ') + 1 - first);
 }
 
 /// The number before the next separator or the end; takes both off the text.
 std::optional<std::int16_t> TakeNumber(std::string_view& Text)
 {
-    const auto Length = std::min(Text.find('/'), Text.size());
-    const auto Number = CInt(WithoutBlanks(Text.substr(0, Length)));
-    Text.remove_prefix(std::min(Length + 1, Text.size()));
-    return Number;
+    const auto length = std::min(Text.find('/'), Text.size());
+    const auto number = CInt(WithoutBlanks(Text.substr(0, length)));
+    Text.remove_prefix(std::min(length + 1, Text.size()));
+    return number;
 }
 
 std::string Digits(double Value, std::size_t Least, bool Grouped)
 {
-    std::array<char, std::numeric_limits<double>::max_exponent10 + 1> Buffer{};
-    const double Whole = std::round(std::abs(Value));
-    char* const End =
-        std::to_chars(Buffer.begin(), Buffer.end(), Whole, std::chars_format::fixed, 0).ptr;
-    std::string Text(Buffer.data(), End);
-    if (Text.size() < Least) Text.insert(0, Least - Text.size(), '0');
-    for (std::size_t Right = 3; Grouped && Right < Text.size(); Right += 4)
-        Text.insert(Text.size() - Right, 1, '.');
-    if (Value < 0 && Whole > 0) Text.insert(0, 1, '-');
-    return Text;
+    std::array<char, std::numeric_limits<double>::max_exponent10 + 1> buffer{};
+    const double whole = std::round(std::abs(Value));
+    char* const end =
+        std::to_chars(buffer.begin(), buffer.end(), whole, std::chars_format::fixed, 0).ptr;
+    std::string text(buffer.data(), end);
+    if (text.size() < Least) text.insert(0, Least - text.size(), '0');
+    for (std::size_t right = 3; Grouped && right < text.size(); right += 4)
+        text.insert(text.size() - right, 1, '.');
+    if (Value < 0 && whole > 0) text.insert(0, 1, '-');
+    return text;
 }
 
 std::string TwoDigits(int Number)
@@ -93,17 +93,17 @@ constexpr std::array<DateField, 10> DateFields{{
 
 std::string FormatDate(DateValue Value, std::string_view Pattern)
 {
-    std::string Text;
+    std::string text;
     while (!Pattern.empty()) {
-        const auto* const Field =
+        const auto* const field =
             std::find_if(DateFields.begin(), DateFields.end(), [&](const DateField& Each) {
                 return Pattern.substr(0, Each.Name.size()) == Each.Name;
             });
-        const bool Found = Field != DateFields.end();
-        Text += Found ? Field->Print(Value) : std::string(1, Pattern.front());
-        Pattern.remove_prefix(Found ? Field->Name.size() : 1);
+        const bool found = field != DateFields.end();
+        text += found ? field->Print(Value) : std::string(1, Pattern.front());
+        Pattern.remove_prefix(found ? field->Name.size() : 1);
     }
-    return Text;
+    return text;
 }
 
 }
@@ -140,38 +140,38 @@ bool IsDate(std::string_view Text)
 
 std::optional<DayNumber> CDate(std::string_view Text)
 {
-    const auto Separators = std::count(Text.begin(), Text.end(), '/');
-    const auto Giorno = TakeNumber(Text);
-    const auto Mese = TakeNumber(Text);
-    const auto Anno = TakeNumber(Text);
-    if (Separators != 2 || !Giorno || !Mese || !Anno || *Anno > 9999) return std::nullopt;
+    const auto separators = std::count(Text.begin(), Text.end(), '/');
+    const auto giorno = TakeNumber(Text);
+    const auto mese = TakeNumber(Text);
+    const auto anno = TakeNumber(Text);
+    if (separators != 2 || !giorno || !mese || !anno || *anno > 9999) return std::nullopt;
 
     // A day that the calendar lacks is one that DateSerial carries over.
-    const DayNumber Result = DateSerial(*Anno, *Mese, *Giorno);
-    if (Day(Result) != *Giorno || Month(Result) != *Mese) return std::nullopt;
-    return Result;
+    const DayNumber result = DateSerial(*anno, *mese, *giorno);
+    if (Day(result) != *giorno || Month(result) != *mese) return std::nullopt;
+    return result;
 }
 
 std::string Format(double Value, std::string_view Pattern)
 {
     if (Pattern.substr(0, 1) != "0") return FormatDate(Value, Pattern);
 
-    const auto Zeros = static_cast<std::size_t>(std::count(Pattern.begin(), Pattern.end(), '0'));
-    return Digits(Value, Zeros, Pattern.find(',') != std::string_view::npos);
+    const auto zeros = static_cast<std::size_t>(std::count(Pattern.begin(), Pattern.end(), '0'));
+    return Digits(Value, zeros, Pattern.find(',') != std::string_view::npos);
 }
 
 std::string Format(std::string_view Text, std::string_view Pattern)
 {
-    const auto Value = CDbl(Text);
-    return Value ? Format(*Value, Pattern) : std::string(Text);
+    const auto value = CDbl(Text);
+    return value ? Format(*value, Pattern) : std::string(Text);
 }
 
 std::string WeekdayText(int Number)
 {
     if (Number < Sunday || Number > Saturday) return "";
-    std::string Name(WeekdayNames[static_cast<std::size_t>(Number - Sunday)]);
-    Name.front() = static_cast<char>(Name.front() - 'a' + 'A');
-    return Name;
+    std::string name(WeekdayNames[static_cast<std::size_t>(Number - Sunday)]);
+    name.front() = static_cast<char>(name.front() - 'a' + 'A');
+    return name;
 }
 
 }
