@@ -7,7 +7,6 @@ import shutil
 import subprocess
 import tempfile
 import time
-from xml.etree import ElementTree
 
 SOURCES = pathlib.Path(__file__).parents[2]
 PATIENCE = 60  # seconds, for a program under sanitizers on a busy machine
@@ -15,19 +14,11 @@ MAIN, MESSAGE = "Vellarno 2.0", "Vellarno"
 SUMS, ABOUT = "Calcoli tra tempo e tra date", "Informazioni"
 
 
-def places(widget, left=0, top=0):
-    """The middle of each control below a widget of a layout, in the window."""
-    for child in widget.findall("widget"):
-        rect = child.find("property[@name='geometry']/rect")
-        x, y, width, height = (int(side.text) for side in rect)
-        yield child.get("name"), (left + x + width // 2, top + y + height // 2)
-        yield from places(child, left + x, top + y)
-
-
-PLACES = dict(places(ElementTree.parse(SOURCES / "mainwindow/frmMain.ui").find("widget")))
-# The strip puts its icons elsewhere than the layout does.
-PLACES |= {f"{icon} icon": (x, 299) for icon, x in zip(("sums", "date", "help", "about"),
-                                                       (386, 411, 437, 463))}
+# Middles of what is hovered over and clicked at, in the main window.
+PLACES = {
+    "lblLabel_5": (445, 147), "lblTotali_8": (419, 195), "imgOnTop": (452, 255),
+    "optDataTime_1": (188, 255), "cmdCalcola": (384, 255), "sums icon": (386, 299),
+    "date icon": (411, 299), "help icon": (437, 299), "about icon": (463, 299)}
 
 
 def output(*command):

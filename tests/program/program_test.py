@@ -5,7 +5,6 @@ import os
 import pathlib
 import re
 import shutil
-import socket
 import subprocess
 import sys
 import tempfile
@@ -42,18 +41,6 @@ class ProgramTest(unittest.TestCase):
             program.click("imgOnTop")
             wait(lambda: above() == pinned, f"a pin that is {pinned}")
             self.assertEqual(xdo("getwindowgeometry", window), place)
-
-    def test_a_second_starts_message_lies_above_a_pinned_window(self):
-        first = self.start()
-        first.click("imgOnTop")
-        message = self.start(beside=first).window(MESSAGE)
-        above = lambda: output("xprop", "-root", "_NET_CLIENT_LIST_STACKING").split()[-1]
-        wait(lambda: int(above(), 16) == int(message), "the message above the window")
-        colors = lambda: [tuple(map(int, color)) for color in re.findall(
-            r"\((\d+),(\d+),(\d+)", output("import", "-window", message, "-depth", 8,
-                                             "-format", "%c", "histogram:info:-"))]
-        wait(lambda: any(b > r + 80 for r, g, b in colors()), "its blue picture")
-        self.assertFalse(any(g > max(r, b) + 5 for r, g, b in colors()), "a green one beside OK")
 
     def test_a_window_is_centred_with_its_frame_and_stays_in_reach(self):
         for scale in (1, 4):  # at 4 the screen is smaller than the window
@@ -122,20 +109,17 @@ class ProgramTest(unittest.TestCase):
 
     def test_it_works_and_ends_in_order_in_surroundings_of_all_kinds(self):
         folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
-        card, mute, odd = (folder / name for name in ("card", "mute", "1#%20"))
+        card, odd = folder / "card", folder / "1#%20"
         odd.mkdir(0o700)
         shutil.copy(output("fc-match", "-f%{file}", "Liberation Serif"), odd)
         os.mkfifo(card)  # sound that takes calls and never answers
-        self.enterContext(socket.create_server(str(mute), family=socket.AF_UNIX, backlog=50))
         rows = {
             "no bus": {"DBUS_SESSION_BUS_ADDRESS": "nonsense"},
             "unknown locale": {"LC_ALL": "xx_YY"},
-            "mute sound": {"PULSE_SERVER": f"unix:{mute}", "ALSA_CONFIG_PATH": card},
+            "mute sound": {"ALSA_CONFIG_PATH": card},
             "no time zone": {"TZ": "No/Where"},
             "one font": {"fonts": f"<dir>{odd}</dir>"},
             "large": {"QT_SCALE_FACTOR": 2, "scale": 2},
-            "large letters": {"QT_FONT_DPI": 192, "scale": 2},
-            "no folder": {"XDG_RUNTIME_DIR": None},
             "unfit folder": {"XDG_RUNTIME_DIR": "/proc"},
             "odd folder": {"XDG_RUNTIME_DIR": odd},
             "full folder": {"before": 'trap "" XFSZ; ulimit -f 0'}}
