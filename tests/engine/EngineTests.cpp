@@ -1,4 +1,3 @@
-#include "engine/CalcDates.h"
 #include "engine/Clock.h"
 #include "engine/DateTime.h"
 #include "engine/Holidays.h"
@@ -8,7 +7,6 @@
 #include <cstdlib>
 #include <ctime>
 #include <gtest/gtest.h>
-#include <random>
 #include <tuple>
 
 using namespace vellarno;
@@ -41,27 +39,6 @@ TEST(Dates, CarryOverAndHaveNearYearsOfTwoDigits)
     EXPECT_EQ(Year(DateSerial(100, 1, 1)), 100);
 }
 
-TEST(Dates, ADifferenceKeepsEverySecondAndAStepOfMonthsTheDay)
-{
-    std::mt19937 random(1); // NOLINT(cert-msc51-cpp): the same cases in each run
-    const auto within = [&](int low, int high) {
-        return std::uniform_int_distribution(low, high)(random);
-    };
-    for (int i = 0; i < 4000; ++i) {
-        const int start = within(0, 86399), span = within(0, 86399), day = within(-328716, 73415);
-        const double from = day + TimeSerial(0, 0, start),
-                     to = day + TimeSerial(0, 0, start + span);
-        ASSERT_EQ(Hour(to - from) * 3600 + Minute(to - from) * 60 + Second(to - from), span);
-
-        const int year = within(1000, 2300), month = within(1, 12), number = within(-9999, 9999);
-        const int kept = within(1, PlainMonthLength(year, month));
-        const int reached = year * 12 + month - 1 + number;
-        const int last = PlainMonthLength(reached / 12, reached % 12 + 1);
-        ASSERT_EQ(DateAdd("m", number, DateSerial(year, month, kept) + 0.25),
-                  DateSerial(reached / 12, reached % 12 + 1, std::min(kept, last)) + 0.25);
-    }
-}
-
 TEST(Dates, StepsMeetMidnightAndEndWithTheValidDates)
 {
     const double lastSecond = TimeSerial(23, 59, 59);
@@ -84,24 +61,6 @@ TEST(Dates, TheClockTellsLocalTimeAlsoWhenTheZoneHasChanged)
         const double passed = Now() - hours / 24 - utc;
         EXPECT_TRUE(passed > -TimeSerial(0, 0, 2) && passed < TimeSerial(1, 0, 0)) << passed;
     }
-}
-
-/// Labels that keep nothing but when the hourglass came and went.
-struct Hourglass final : ResultLabels
-{
-    std::string Log;
-    void SetDati(Elapsed, const std::string&) override { Log += '.'; }
-    void SetTotali(Total, const std::string&) override { Log += '.'; }
-    void SetHourglass(bool Shown) override { Log += Shown ? "shown " : " gone"; }
-};
-
-TEST(Results, TheHourglassStandsWhileALongPeriodIsCounted)
-{
-    Hourglass longer, shorter;
-    CalcDates(30000, 50001, false, longer);
-    CalcDates(30000, 50000, false, shorter);
-    EXPECT_EQ(longer.Log, "shown ......... gone");
-    EXPECT_EQ(shorter.Log, "......... gone");
 }
 
 TEST(Texts, NumbersHaveZerosAndPointsAndDatesItalianNames)

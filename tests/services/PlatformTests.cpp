@@ -29,36 +29,26 @@ struct RuntimeFolder : testing::Test
     }
 };
 
-TEST_F(RuntimeFolder, HoldsOneThatOnlyTheUserCanEnter)
-{
-    for (int run = 0; run < 2; ++run) EXPECT_EQ(GetTempDirectory(), runtime / "vellarno/");
-    EXPECT_EQ(fs::status(runtime / "vellarno").permissions(), fs::perms::owner_all);
-}
-
-TEST_F(RuntimeFolder, IsReplacedInTheTemporaryFolderByARealOneOfTheUsersOwn)
+TEST_F(RuntimeFolder, HoldsOneOfTheUsersOwnElseTheTemporaryFolderDoes)
 {
     const fs::path usual = runtime / "vellarno", real = runtime / "real",
                    instead = runtime / ("vellarno-" + std::to_string(geteuid()));
     const std::function<void(const fs::path&)> obstacles[] = {
-        [](const fs::path& at) { std::ofstream(at) << "file"; },
         [](const fs::path& at) { mkfifo(at.c_str(), S_IRWXU); },
         [&](const fs::path& at) { fs::create_directory_symlink(real, at); },
-        [](const fs::path& at) { fs::create_directory(at); }, // open to others
-        [](const fs::path& at) { mkdir(at.c_str(), S_IRWXU), chown(at.c_str(), 1, 1); }};
+        [](const fs::path& at) { fs::create_directory(at); }}; // open to others
     mkdir(real.c_str(), S_IRWXU);
     for (const auto& lay : obstacles) {
-        if (&lay == std::end(obstacles) - 1 && geteuid() != 0) break; // only root gives away
+        for (int run = 0; run < 2; ++run) EXPECT_EQ(GetTempDirectory(), usual / "");
+        EXPECT_EQ(fs::status(usual).permissions(), fs::perms::owner_all);
+        fs::remove(usual);
         lay(usual);
         EXPECT_EQ(GetTempDirectory(), instead / "") << &lay - obstacles;
-        EXPECT_EQ(fs::status(instead).permissions(), fs::perms::owner_all);
         fs::remove(instead);
         lay(instead);
         EXPECT_EQ(GetTempDirectory(), "/dev/null/") << &lay - obstacles;
-        EXPECT_FALSE(WritePrivateFile(GetTempDirectory() + HelpFileName, "page"));
         for (const auto& path : {usual, instead}) fs::remove(path);
     }
-    qputenv("XDG_RUNTIME_DIR", "/proc");
-    EXPECT_EQ(GetTempDirectory(), instead / "");
 }
 
 TEST_F(RuntimeFolder, OnlyAnOrdinaryFileIsWrittenOverAndOnlyForTheUser)
@@ -69,12 +59,10 @@ TEST_F(RuntimeFolder, OnlyAnOrdinaryFileIsWrittenOverAndOnlyForTheUser)
     EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     fs::create_hard_link(file, runtime / "twin");
     fs::create_symlink(file, runtime / "link");
-    mkfifo((runtime / "pipe").c_str(), S_IRUSR | S_IWUSR);
-    for (const char* other : {"twin", "link", "pipe"})
+    for (const char* other : {"twin", "link"})
         EXPECT_FALSE(WritePrivateFile(runtime / other, "other")) << other;
-    for (const char* other : {"link", "pipe", "file"}) DeletePrivateFile(runtime / other);
-    EXPECT_TRUE(fs::is_symlink(runtime / "link") && fs::exists(runtime / "pipe"));
-    EXPECT_FALSE(FileExists(file));
+    for (const char* other : {"link", "file"}) DeletePrivateFile(runtime / other);
+    EXPECT_TRUE(fs::is_symlink(runtime / "link") && !FileExists(file));
 }
 
 TEST_F(RuntimeFolder, OneProcessAtATimeHoldsTheLock)
@@ -90,29 +78,25 @@ TEST_F(RuntimeFolder, OneProcessAtATimeHoldsTheLock)
 
 TEST_F(RuntimeFolder, AProgramIsStartedAsItsEntrySaysIfItIsThere)
 {
-    const fs::path file = runtime / "a b";
     qputenv("XDG_DATA_HOME", runtime.c_str());
     fs::create_directory(runtime / "applications");
-    std::ofstream(runtime / "applications/touch.desktop")
-        << "[Desktop Entry]\nExec=touch \"" << file.string() << "\"\n";
-    std::ofstream(runtime / "applications/gone.desktop") << "[Desktop Entry]\nExec=vellarno-none\n";
+    const auto entry = [&](const char* name) {
+        return std::ofstream(runtime / "applications" / name) << "[Desktop Entry]\nExec=";
+    };
+    entry("touch.desktop") << "touch " << runtime / "a b" << '\n';
+    entry("gone.desktop") << "vellarno-none\n";
     EXPECT_TRUE(System().StartEntry("touch"));
-    EXPECT_TRUE(WaitUntil([&] { return FileExists(file); }));
-    for (const char* entry : {"gone", "never"}) EXPECT_FALSE(System().StartEntry(entry)) << entry;
+    EXPECT_TRUE(WaitUntil([&] { return FileExists(runtime / "a b"); }));
+    for (const char* name : {"gone", "never"}) EXPECT_FALSE(System().StartEntry(name)) << name;
 }
 
-TEST(DateSettings, EachDesktopsOwnProgramIsKnownAndItsAbsenceTold)
+TEST(DateSettings, AreThoseOfTheDesktopElseTheirAbsenceIsTold)
 {
     World world;
-    for (const char* entry : {"gnome-datetime-panel", "kcm_clock", "cinnamon-settings-calendar",
-                              "mate-time-admin", "lxqt-admin-time", "time"}) {
-        world.desktop.OnlyEntry = entry;
+    for (const auto& [entry, log] : {std::pair("kcm_clock", "start kcm_clock"),
+                                     std::pair("none", "message 64 Vellarno: Nel sistema")}) {
+        world.OnlyEntry = entry;
         StartDateSettings();
-        EXPECT_EQ(world.TakeLog(), std::string("start ") + entry);
+        EXPECT_TRUE(world.TakeLog().starts_with(log));
     }
-    world.desktop.OnlyEntry = "none";
-    StartDateSettings();
-    EXPECT_EQ(
-        world.TakeLog(),
-        "message 64 Vellarno: Nel sistema non c'è un programma per impostare la data e l'ora.");
 }

@@ -1,33 +1,26 @@
 #include "services/Endpoints.h"
-#include "services/Trasparency.h"
-#include "services/forms/Look.h"
 #include "services/frmAbout.h"
 #include "tests/support/Layout.h"
 #include "tests/support/Stage.h"
 
-#include <QImage>
-#include <cmath>
-
 using namespace vellarno::test;
 
-TEST(Fade, GoesStepByStepUntilItIsOpaqueOrClosed)
-{
-    World world;
-    Workbench form;
-    std::vector<double> seen;
-    QTimer steps;
-    QObject::connect(&steps, &QTimer::timeout, [&] { seen.push_back(form.windowOpacity()); });
-    steps.start(0);
-    FadeInForm(form);
-    EXPECT_FALSE(form.isVisible()) << "where windows can't be seen through";
-    world.desktop.IsComposited = true;
-    FadeInForm(form);
-    EXPECT_TRUE(form.isVisible());
-    EXPECT_TRUE(seen.front() < 0.1 && seen.size() >= 246 && form.windowOpacity() == 1);
-    QTimer::singleShot(0, &form, [&] { form.Close(); });
-    FadeInForm(form);
-    EXPECT_LT(form.windowOpacity(), 0.1);
-}
+constexpr LayoutRow Controls[] = {
+    {"Label2_0 Label2_1 lblVersione", "VELLARNO|VELLARNO|Versione 2.0.0"},
+    {"lblCalendario_0 lblCalendario_1", "nov 26|22"},
+    {"Label1", "Programma per l'esecuzione di calcoli tra date e/o ore"},
+    {"Label4", "Programma freeware di libero utilizzo e distribuzione"},
+    {"Label3", "© 2026 gli autori di Vellarno"},
+    {"lblWarning",
+     "Disclaimer: questo programma viene fornito \"as is\" (così com'è) senza nessuna "
+     "garanzia "
+     "di funzionamento.\nL 'autore, in ogni caso, non potrà essere ritenuto responsabile per "
+     "eventuali danni derivati dall'utilizzo di questo programma."},
+    {"Label7", "Per aggiornamenti visita il sito:"},
+    {"imgsito", ":/pictures/banner.png", endpoints::WebSite},
+    {"Image4 imgMail2", ":/pictures/about-calendar.png|:/pictures/envelope.png"},
+    {"lblEmail", endpoints::Mail, "e-mail"},
+    {"cmdChiudi", "Chiudi", "Esci"}};
 
 struct About : testing::Test, Stage<frmAbout>
 {};
@@ -36,41 +29,13 @@ TEST_F(About, TellsWhatTheProgramIsAndTodaysDate)
 {
     EXPECT_EQ(form.Caption(), "Informazioni");
     EXPECT_EQ(form.size(), QSize(433, 317));
-    ExpectLayout(
-        form,
-        {{"Label2_0 Label2_1", "VELLARNO"},
-         {"lblVersione", "Versione 2.0.0"},
-         {"lblCalendario_0 lblCalendario_1", "nov 26|22"},
-         {"Label1", "Programma per l'esecuzione di calcoli tra date e/o ore"},
-         {"Label4", "Programma freeware di libero utilizzo e distribuzione"},
-         {"Label3", "© 2026 gli autori di Vellarno"},
-         {"lblWarning",
-          "Disclaimer: questo programma viene fornito \"as is\" (così com'è) senza nessuna "
-          "garanzia "
-          "di funzionamento.\nL 'autore, in ogni caso, non potrà essere ritenuto responsabile per "
-          "eventuali danni derivati dall'utilizzo di questo programma."},
-         {"Label7", "Per aggiornamenti visita il sito:"},
-         {"imgsito", ":/pictures/banner.png", endpoints::WebSite},
-         {"Image4 imgMail2", ":/pictures/about-calendar.png|:/pictures/envelope.png"},
-         {"lblEmail", endpoints::Mail, "e-mail"},
-         {"cmdChiudi", "Chiudi", "Esci"}});
+    ExpectLayout(form, 3, Controls);
+    const auto& link = Find<forms::Label>(form, "lblEmail");
+    EXPECT_TRUE(link.font().underline());
+    EXPECT_EQ(Find<forms::PictureBox>(form, "imgsito").PrintedText(), endpoints::WebSiteName);
     const auto& warning = Find<forms::Label>(form, "lblWarning");
     EXPECT_LE(warning.heightForWidth(warning.width()), warning.height());
     EXPECT_GT(CountPoints(Seen(warning), Qt::red), 100);
-}
-
-TEST(Contrast, IsEnoughForFieldsAndGreyLetters)
-{
-    const auto light = [](const QColor& of) { // as the Web Content Accessibility Guidelines have it
-        const auto linear = [](double part) { return std::pow((part + 0.055) / 1.055, 2.4); };
-        return 0.2126 * linear(of.redF()) + 0.7152 * linear(of.greenF()) +
-               0.0722 * linear(of.blueF()) + 0.05;
-    };
-    using namespace forms::palette;
-    const frmAbout about;
-    const auto grey = forms::ColorOf(Find<forms::Label>(about, "Label3").ForeColor());
-    EXPECT_GE(light(Ground) / light(grey), 4.5);
-    for (const QColor& around : {Panel, Ground}) EXPECT_GE(light(around) / light(FieldEdge), 3);
 }
 
 TEST(AboutBox, ClosesByItsButtonItsKeysAndItsLinks)
@@ -83,8 +48,7 @@ TEST(AboutBox, ClosesByItsButtonItsKeysAndItsLinks)
     for (const auto& [clicked, log] : rows) {
         OnTopFlag = true;
         Stage<frmAbout> box;
-        box.Click(Find<forms::Image>(box.form, "imgMail2"));
-        EXPECT_EQ(OpenWindows(), "frmAbout*") << "the envelope is a picture";
+        EXPECT_EQ(OpenWindows(), "frmAbout*");
         box.Click(Find<QWidget>(box.form, clicked).geometry().center());
         EXPECT_EQ(OpenWindows(), "");
         EXPECT_EQ(box.TakeLog(), log);

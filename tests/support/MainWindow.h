@@ -14,15 +14,27 @@ enum ToolIcon { DateSettingsIcon, AboutIcon, HelpIcon, SumsIcon };
 class MainWindow : public Stage<frmMain>
 {
 public:
-    explicit MainWindow(Mode Chosen = Mode::Times);
+    explicit MainWindow(Mode Chosen = Mode::Times)
+    {
+        if (Chosen != Mode::Times) Choose(Chosen);
+        TakeLog();
+    }
 
     void Choose(Mode To) { Click(optDataTime[static_cast<int>(To)]); }
-    void Tick(const forms::CheckBox& Box, bool On);
+    void Tick(const forms::CheckBox& Box, bool On)
+    {
+        if ((Box.Value() == 1) != On) Click(Box);
+    }
     /// Types a start and an end, from the first box of the rows on.
     void EnterDates(std::string_view Digits) { Enter(txtData[0], Digits); }
     void EnterTimes(std::string_view Digits) { Enter(txtTime[0], Digits); }
     /// Enters what the mode needs and presses the button.
-    void Compare(std::string_view DateDigits, std::string_view TimeDigits = {});
+    void Compare(std::string_view DateDigits, std::string_view TimeDigits = {})
+    {
+        if (!DateDigits.empty()) EnterDates(DateDigits);
+        if (!TimeDigits.empty()) EnterTimes(TimeDigits);
+        Click(cmdCalcola);
+    }
     /// The clock's next tick, without waiting for it.
     void PassTick() { form.Timer1_Timer(); }
 
@@ -32,13 +44,28 @@ public:
     std::string Times() const { return Row(txtTime, 0, ':') + ' ' + Row(txtTime, 3, ':'); }
     /// Elapsed years to seconds, the totals of days to seconds, and the weekdays, parted by bars:
     /// "00 11 30 - - -|364 52 303 52 52 09 - - -|Sabato Sabato"
-    std::string Figures() const;
+    std::string Figures() const
+    {
+        std::string all;
+        for (const auto* labels : {&lblDati, &lblTotali, &lblWeekDay}) {
+            for (const auto& label : *labels)
+                all += (label.Caption().empty() ? "-" : label.Caption()) + ' ';
+            all.back() = '|';
+        }
+        return all.substr(0, all.size() - 1);
+    }
     bool HasResults() const { return Figures().find_first_not_of("- |") != std::string::npos; }
     bool CalendarIsOpen() const { return picCalendario.Visible() && shpShadow.Visible(); }
     bool CalendarIsClosed() const { return !picCalendario.Visible() && !shpShadow.Visible(); }
     std::string MonthOnShow() const { return txtCalMeseAnno.Text(); }
     /// What the balloon says that stands or is about to: heading, colon, text.
-    std::string Balloon() const;
+    std::string Balloon() const
+    {
+        std::string all;
+        for (const auto* balloon : form.findChildren<forms::Balloon*>())
+            all += balloon->Title() + ": " + balloon->Text();
+        return all;
+    }
 
     template <class ControlClass>
     using Array = const forms::ControlArray<ControlClass>;

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QImage>
 #include <QInputMethodEvent>
+#include <QScreen>
 #include <QTest>
 #include <QWheelEvent>
 #include <QWindow>
@@ -12,13 +13,6 @@ namespace vellarno::test {
 namespace {
 
 constexpr int Patience = 30'000;
-Qt::MouseButtons held;
-int mouseTime = 0;
-
-QString Utf16(std::string_view Text)
-{
-    return QString::fromUtf8(Text.data(), static_cast<qsizetype>(Text.size()));
-}
 
 }
 
@@ -37,10 +31,9 @@ bool WaitUntil(const std::function<bool()>& Condition)
 std::string OpenWindows()
 {
     QStringList names;
-    for (const auto* form : Shown<forms::Form>()) {
-        const bool pinned = form->windowHandle()->flags() & Qt::WindowStaysOnTopHint;
-        names += form->objectName() + (pinned ? "*" : "");
-    }
+    for (const auto* form : Shown<forms::Form>())
+        names += form->objectName() +
+                 (form->windowHandle()->flags() & Qt::WindowStaysOnTopHint ? "*" : "");
     return names.join(' ').toStdString();
 }
 
@@ -57,7 +50,7 @@ void Person::Open() const
 
 void Person::Type(std::string_view Text) const
 {
-    for (const QChar c : Utf16(Text)) Press(Qt::Key(c.toUpper().unicode()), {}, c);
+    for (const QChar c : QString::fromUtf8(Text)) Press(Qt::Key(c.toUpper().unicode()), {}, c);
 }
 
 void Person::Press(Qt::Key Key, Qt::KeyboardModifiers Modifiers, const QString& Text) const
@@ -78,25 +71,28 @@ void Person::Enter(const forms::TextBox& Into, std::string_view Text) const
 
 void Person::Paste(std::string_view Text) const
 {
-    QGuiApplication::clipboard()->setText(Utf16(Text));
+    QGuiApplication::clipboard()->setText(QString::fromUtf8(Text));
     Press(Qt::Key_Insert, Qt::ShiftModifier);
 }
 
 void Person::Commit(std::string_view Text) const
 {
     QInputMethodEvent commit;
-    commit.setCommitString(Utf16(Text));
+    commit.setCommitString(QString::fromUtf8(Text));
     if (subject->focusWidget()) QCoreApplication::sendEvent(subject->focusWidget(), &commit);
 }
 
 void Person::Mouse(QEvent::Type Act, Spot At, Button By, int Pause) const
 {
+    static Qt::MouseButtons held;
+    static int mouseTime = 0;
     QWindow* handle = subject && subject->isVisible() ? subject->windowHandle() : nullptr;
     held.setFlag(By, Act == QEvent::MouseButtonPress);
     mouseTime += Pause;
-    const QPoint at = At.At;
     if (handle)
-        qt_handleMouseEvent(handle, at, handle->mapToGlobal(at), held, By, Act, {}, mouseTime);
+        qt_handleMouseEvent(handle, At.At, handle->mapToGlobal(At.At), held, By, Act, {},
+                            mouseTime);
+    if (Act != QEvent::MouseButtonPress) Settle();
 }
 
 void Person::Wheel(Spot At, QPoint Turn) const
@@ -116,19 +112,20 @@ std::string Person::Focus() const
 
 QImage Person::Seen(const forms::Control& Of) const
 {
-    const QWidget& widget = Of.Widget();
-    return subject->grab({widget.mapTo(subject, QPoint()), widget.size()}).toImage();
+    QEvent painting(QEvent::UpdateRequest); // of what has changed alone, as on the screen
+    QCoreApplication::sendEvent(subject, &painting);
+    const QRect at(Of.Widget().mapTo(subject, QPoint()), Of.Widget().size());
+    return subject->screen()
+        ->grabWindow(subject->winId(), at.x(), at.y(), at.width(), at.height())
+        .toImage();
 }
 
 std::string Row(const forms::ControlArray<forms::TextBox>& Boxes, int First, char Separator)
 {
-    std::string row;
-    for (const int i : {0, 1, 2}) {
-        const std::string text = Boxes[First + i].Text();
-        const std::size_t width = Separator == '/' && i == 2 ? 4 : 2; // a year has four digits
-        row += text + std::string(std::max(width, text.size()) - text.size(), '_') + Separator;
-    }
-    return row.substr(0, row.size() - 1);
+    QStringList texts;
+    for (const int i : {0, 1, 2}) // a year has four digits
+        texts += Boxes[First + i].text().leftJustified(Separator == '/' && i == 2 ? 4 : 2, u'_');
+    return texts.join(QLatin1Char(Separator)).toStdString();
 }
 
 int CountPoints(const QImage& In, const QColor& Of, int Softness)
@@ -136,9 +133,9 @@ int CountPoints(const QImage& In, const QColor& Of, int Softness)
     int count = 0;
     for (int i = 0; i < In.width() * In.height(); ++i) {
         const QColor is = In.pixelColor(i % In.width(), i / In.width());
-        count += std::abs(is.red() - Of.red()) + std::abs(is.green() - Of.green()) +
-                     std::abs(is.blue() - Of.blue()) <=
-                 Softness;
+        const int distance = std::abs(is.red() - Of.red()) + std::abs(is.green() - Of.green()) +
+                             std::abs(is.blue() - Of.blue());
+        count += distance <= Softness;
     }
     return count;
 }

@@ -7,9 +7,6 @@
 #include <QApplication>
 #include <algorithm>
 #include <functional>
-#include <string>
-#include <string_view>
-#include <vector>
 
 namespace vellarno::test {
 
@@ -79,20 +76,25 @@ public:
     }
     void MouseUp(Spot At, Button By = Qt::LeftButton) const
     {
-        Mouse(QEvent::MouseButtonRelease, At, By), Settle();
+        Mouse(QEvent::MouseButtonRelease, At, By);
     }
-    void Click(Spot At, Button By = Qt::LeftButton) const { MouseDown(At, By), MouseUp(At, By); }
+    void Click(Spot At, Button By = Qt::LeftButton, int Pause = 1000) const
+    {
+        MouseDown(At, By, Pause);
+        MouseUp(At, By);
+    }
     void DoubleClick(Spot At, Button By = Qt::LeftButton) const
     {
-        Click(At, By), MouseDown(At, By, 1), MouseUp(At, By);
+        Click(At, By);
+        Click(At, By, 1);
     }
-    void Hover(Spot At) const { Mouse(QEvent::MouseMove, At, Qt::NoButton), Settle(); }
+    void Hover(Spot At) const { Mouse(QEvent::MouseMove, At, Qt::NoButton); }
     /// In eighths of a degree: 120 is a notch up, or to the left.
     void Wheel(Spot At, QPoint Turn = {0, 120}) const;
 
     /// Name of the control that has the focus, or would have it if the window were active.
     std::string Focus() const;
-    /// What a control looks like on the window, with all that lies before and behind it.
+    /// What the screen shows where a control stands, with all that lies before and behind it.
     QImage Seen(const forms::Control& Of) const;
 
 private:

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <iterator>
-#include <map>
 #include <tuple>
 #include <vector>
 
@@ -40,20 +38,12 @@ std::string Print(bool Used, std::initializer_list<std::int64_t> Numbers, char E
     return all;
 }
 
-/// A day and the second of it.
-struct Point
+/// Noon belongs to the day of even number.
+int Rounded(const PlainMoment& Moment)
 {
-    PlainDay Day;
-    int Second;
-
-    auto Order() const { return std::tuple(Day.Serial, Second); }
-    /// Noon belongs to the day of even number.
-    int Rounded() const
-    {
-        const bool up = Second > Noon || (Second == Noon && Day.Serial % 2 != 0);
-        return Day.Serial + (up ? 1 : 0);
-    }
-};
+    const bool odd = Moment.Day.Serial % 2 != 0;
+    return Moment.Day.Serial + (Moment.Second > Noon || (Moment.Second == Noon && odd) ? 1 : 0);
+}
 
 /// Years, months and days by the fields of the dates: the start's month lends its days, or the one
 /// before it where both months are the same.
@@ -111,54 +101,44 @@ const PlainDay& PlainDayOf(int Serial)
 
 std::optional<PlainDay> PlainDayOf(int Day, int Month, int Year)
 {
-    const std::tuple date(Year, Month, Day);
-    const auto found = std::ranges::lower_bound(AllDays(), date, {}, [](const PlainDay& day) {
-        return std::tuple(day.Year, day.Month, day.Day);
-    });
-    if (found == AllDays().end() || std::tuple(found->Year, found->Month, found->Day) != date)
-        return std::nullopt;
+    const auto date = [](const PlainDay& of) { return (of.Year * 100 + of.Month) * 100 + of.Day; };
+    const int sought = (Year * 100 + Month) * 100 + Day;
+    const auto found = std::ranges::lower_bound(AllDays(), sought, {}, date);
+    if (found == AllDays().end() || date(*found) != sought) return std::nullopt;
     return *found;
 }
 
 std::string JudgeFigures(bool Dates, bool Times, PlainMoment Start, PlainMoment End, bool WholeDay,
                          bool SaturdaysOff)
 {
-    const auto read = [&](const PlainMoment& from) -> std::optional<Point> {
-        const auto day = Dates ? PlainDayOf(from.Day, from.Month, from.Year) : PlainDayOf(40000);
-        const int second = from.Hour * 3600 + from.Minute * 60 + from.Second;
-        return day ? std::optional(Point{*day, Times ? second : 0}) : std::nullopt;
-    };
-    auto start = read(Start), end = read(End);
-    if (!start || !end) return "";
-    const std::string weekdays = std::string(Weekdays[Dates ? start->Day.Weekday : 0]) + ' ' +
-                                 Weekdays[Dates ? end->Day.Weekday : 0];
+    const auto order = [](const PlainMoment& of) { return std::tuple(of.Day.Serial, of.Second); };
+    const std::string weekdays = std::string(Weekdays[Dates ? Start.Day.Weekday : 0]) + ' ' +
+                                 Weekdays[Dates ? End.Day.Weekday : 0];
 
-    if (!Dates && end->Second < start->Second) end->Day.Step();
-    if (end->Order() < start->Order()) std::swap(start, end);
-    const std::int64_t seconds = std::int64_t{end->Day.Serial - start->Day.Serial} * DaySeconds +
-                                 end->Second - start->Second;
+    if (!Dates && End.Second < Start.Second) End.Day.Step();
+    if (order(End) < order(Start)) std::swap(Start, End);
+    const std::int64_t seconds =
+        std::int64_t{End.Day.Serial - Start.Day.Serial} * DaySeconds + End.Second - Start.Second;
     const std::int64_t clock = seconds % DaySeconds;
 
-    if (WholeDay && !Times) end->Day.Step();
-    if (start->Second > end->Second && Dates) end->Day = PlainDayOf(end->Day.Serial - 1);
-    if (start->Second < Noon && end->Second > Noon) end->Second -= Noon;
-    const auto [years, months, days] = Between(start->Day, end->Day);
+    if (WholeDay && !Times) End.Day.Step();
+    if (Start.Second > End.Second && Dates) End.Day = PlainDayOf(End.Day.Serial - 1);
+    if (Start.Second < Noon && End.Second > Noon) End.Second -= Noon;
+    const auto [years, months, days] = Between(Start.Day, End.Day);
     int mondays = 0, sundays = 0, saturdays = 0, holidays = 0, working = 0;
-    for (int i = start->Day.Serial; i < end->Day.Serial; ++i)
+    for (int i = Start.Day.Serial; i < End.Day.Serial; ++i)
         mondays += PlainDayOf(i + 1).Weekday == 2;
-    for (int i = start->Rounded(), left = std::abs(end->Rounded() - i); left > 0; ++i, --left) {
+    for (int i = Rounded(Start), left = std::abs(Rounded(End) - i); left > 0; ++i, --left) {
         const PlainDay& day = PlainDayOf(i);
         const bool sunday = day.Weekday == 1, saturday = day.Weekday == 7;
         sundays += sunday;
         saturdays += saturday;
         if (!sunday && !(saturday && SaturdaysOff)) ++(day.IsListed() ? holidays : working);
     }
+    const int total = End.Day.Serial - Start.Day.Serial;
     return Print(Dates, {years, months, days}, ' ') +
            Print(Times, {clock / 3600, clock / 60 % 60, clock % 60}, '|') +
-           Print(Dates,
-                 {end->Day.Serial - start->Day.Serial, mondays, working, saturdays, sundays,
-                  holidays},
-                 ' ') +
+           Print(Dates, {total, mondays, working, saturdays, sundays, holidays}, ' ') +
            Print(Times, {seconds / 3600, seconds / 60, seconds}, '|') + weekdays;
 }
 

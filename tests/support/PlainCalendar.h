@@ -27,14 +27,15 @@ struct PlainDay
 std::optional<PlainDay> PlainDayOf(int Day, int Month, int Year);
 const PlainDay& PlainDayOf(int Serial);
 
-/// A date and a time as they stand in the fields of an entry.
+/// A day and the second of it.
 struct PlainMoment
 {
-    int Day, Month, Year, Hour, Minute, Second;
+    PlainDay Day;
+    int Second;
 };
 
-/// The figures that belong to two entries: elapsed, totals and weekdays parted by bars, "-" for
-/// each that the window leaves empty. Nothing where it has to refuse a date.
+/// The figures that belong to two moments: elapsed, totals and weekdays parted by bars, "-" for
+/// each that the window leaves empty.
 std::string JudgeFigures(bool Dates, bool Times, PlainMoment Start, PlainMoment End, bool WholeDay,
                          bool SaturdaysOff);
 

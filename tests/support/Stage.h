@@ -1,52 +1,11 @@
 #pragma once
 
-#include "engine/Clock.h"
-#include "services/GenericBas.h"
 #include "tests/support/Person.h"
-#include "tests/support/Recorder.h"
+#include "tests/support/World.h"
 
-#include <QApplication>
-#include <QTemporaryDir>
 #include <QTimer>
-#include <chrono>
-#include <gtest/gtest.h>
 
 namespace vellarno::test {
-
-using namespace vellarno;
-using namespace std::chrono_literals;
-using std::chrono::sys_days;
-
-/// What surrounds a window in a test: a platform that takes notes, a folder of its own, and a clock
-/// that stands at 14:05:09 on Sunday 22/11/2026. A beep or a message that the test did not take
-/// from the log is a fault.
-class World
-{
-public:
-    const QTemporaryDir folder;
-    Recorder desktop;
-
-    World()
-    {
-        desktop.TempFolder = folder.path().toStdString();
-        StopClock(sys_days(2026y / 11 / 22) + 14h + 5min + 9s);
-    }
-    ~World()
-    {
-        EXPECT_FALSE(desktop.Alarmed()) << "not expected: " << desktop.TakeLog();
-        SetClock(nullptr);
-        OnTopFlag = false;
-    }
-    World(const World&) = delete;
-    World& operator=(const World&) = delete;
-
-    void StopClock(std::chrono::sys_seconds At)
-    {
-        using Days = std::chrono::duration<double, std::chrono::days::period>;
-        SetClock([now = Days(At - sys_days(1899y / 12 / 30)).count()] { return now; });
-    }
-    std::string TakeLog() { return desktop.TakeLog(); }
-};
 
 /// What a box of an entry takes, where the typing goes on, and what it empties with two beeps.
 struct Limit

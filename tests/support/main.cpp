@@ -12,11 +12,6 @@ extern "C" const char* __lsan_default_suppressions() // NOLINT(*-reserved-identi
 int main(int ArgumentCount, char** Arguments)
 {
     testing::InitGoogleTest(&ArgumentCount, Arguments);
-    static QtMessageHandler next = qInstallMessageHandler(
-        [](QtMsgType type, const QMessageLogContext& from, const QString& text) {
-            // What the offscreen platform can't do (raising, opacity) is no news.
-            if (!text.startsWith(QLatin1String("This plugin does not"))) next(type, from, text);
-        });
     const QTemporaryDir runtime; // closed to others, as desktops have it
     qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen");
