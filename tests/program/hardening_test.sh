@@ -3,11 +3,8 @@
 # the program calls no function that it guards.)
 #   hardening_test.sh PROGRAM
 set -eu
-program=$1
-has() { readelf -W "$1" "$program" | grep -qE "$2" || { echo "$program: no $3" >&2; exit 1; }; }
-
-has --file-header 'Type: +DYN' 'position-independent executable'
-has --program-headers GNU_RELRO 'read-only relocations'
-has --dynamic BIND_NOW 'binding at start'
-has --dyn-syms '__stack_chk_fail' 'stack protector'
-! readelf -WS "$program" | grep -q '\.debug_info' || { echo "$program: debug leftovers" >&2; exit 1; }
+for has in '--file-header DYN' '--program-headers GNU_RELRO' '--dynamic BIND_NOW' \
+           '--dyn-syms __stack_chk_fail'; do
+    readelf -W ${has% *} "$1" | grep -q "${has#* }" || { echo "$1: no ${has#* }" >&2; exit 1; }
+done
+! readelf -WS "$1" | grep -q '\.debug_info' || { echo "$1: debug leftovers" >&2; exit 1; }
