@@ -81,10 +81,9 @@ TEST_F(Calendar, OpensOnTheMonthOfItsEntryElseOnTodaysAndStepsUpToItsLimits)
 
 TEST_F(Calendar, TheWheelAndASwipeStepWhereverThePanelLies)
 {
-    const auto& weekday = Find<forms::Label>(form, "gsett_0");
     OpenOn(3, 2021);
     for (const Spot place : {Spot(hscDataScroll), Spot(txtCalMeseAnno), Spot(GIORNO[1]),
-                             Spot(GIORNO[20]), Spot(weekday), Spot(picCalendario)})
+                             Spot(GIORNO[20]), Spot(Find<forms::Label>(form, "gsett_0"))})
         for (const QPoint back : {QPoint(0, 120), QPoint(120, 0), QPoint(120, -30)}) {
             Wheel(place, back);
             EXPECT_EQ(MonthOnShow(), " FEB 2021") << place.At.x() << ' ' << back.x();
@@ -156,8 +155,7 @@ TEST_F(Calendar, KeysMoveAMarkOverTheDaysAndTakeOne)
                 {"28022021", {Qt::Key_Right, Qt::Key_Down, Qt::Key_Enter}, "08/03/2021"},
                 {"15032021", {Qt::Key_PageUp, Qt::Key_End, Qt::Key_Space}, "28/02/2021"},
                 {"15012021", {Qt::Key_Home, Qt::Key_Left, Qt::Key_Up, Qt::Key_Space}, "24/12/2020"},
-                {"31122100", {Qt::Key_Right, Qt::Key_Space}, "01/01/2100"},
-                {"05011900", {Qt::Key_PageUp, Qt::Key_Space}, "05/12/1900"}};
+                {"31122100", {Qt::Key_Right, Qt::Key_Space}, "01/01/2100"}};
     for (const auto& [typed, keys, taken] : rows) {
         EnterDates(typed);
         OpenFor(0);
@@ -185,13 +183,11 @@ TEST_F(Calendar, TheMarkIsSeenWhileTheKeysMoveIt)
 TEST_F(Calendar, IsClosedByWhatNeedsItsPlaceAndByNothingElse)
 {
     Choose(Mode::Moments);
-    const std::function<void()> acts[] = {[&] { txtTime[2].SetFocus(); },
-                                          [&] { cmdNowTime[1].click(); },
-                                          [&] { txtData[4].SetText("7"); },
-                                          [&] { txtData[0].SetText("7"); },
-                                          [&] { Click(cmdCalcola); },
-                                          [&] { Choose(Mode::Dates); },
-                                          [&] { Click(picToolBarra[DateSettingsIcon]); }};
+    const std::function<void()> acts[] = {
+        [&] { txtTime[2].SetFocus(); },   [&] { cmdNowTime[1].click(); },
+        [&] { txtData[4].SetText("7"); }, [&] { txtData[0].SetText("7"); },
+        [&] { Click(cmdCalcola); },       [&] { Choose(Mode::Dates); },
+        [&] { Click(picToolBarra[0]); }};
     for (const auto& act : acts) {
         OpenFor(1);
         act();

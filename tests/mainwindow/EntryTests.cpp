@@ -5,7 +5,7 @@ using DateEntry = Before<Mode::Dates>;
 using TimeEntry = Before<Mode::Times>;
 using Entry = Before<Mode::Moments>;
 
-TEST_F(DateEntry, EachBoxHasItsLimitAndSendsTheTypingOn)
+TEST_F(Entry, EachBoxHasItsLimitAndSendsTheTypingOn)
 {
     ExpectLimits(txtData, {{5, "2100", "txtData_5", {"2101"}},
                            {4, "12", "txtData_5", {"13", "00"}},
@@ -13,10 +13,6 @@ TEST_F(DateEntry, EachBoxHasItsLimitAndSendsTheTypingOn)
                            {2, "0000", "txtData_3", {"2101"}},
                            {1, "12", "txtData_2", {"13", "00"}},
                            {0, "31", "txtData_1", {"32", "00"}}});
-}
-
-TEST_F(TimeEntry, EachBoxHasItsLimitAndSendsTheTypingOn)
-{
     ExpectLimits(txtTime, {{5, "0059", "txtTime_5", {"60", "123"}},
                            {4, "59", "txtTime_5", {"60"}},
                            {3, "23", "txtTime_4", {"24"}},

@@ -27,15 +27,7 @@ constexpr Outcome Outcomes[] = {{"000000 111111 00001111 1111111100000000000 000
                                 {"111111 000000 00000000 0000000011111111111 111111000 11 00 11 ",
                                  10, 107, "00:00:00 00:00:00", "txtData_0"}};
 
-struct Switch
-{
-    Mode From, To;
-    int Beeps; ///< for each filled date box and the first time box
-};
-
-constexpr Switch Switches[] = {{Mode::Times, Mode::Moments, 1}, {Mode::Moments, Mode::Dates, 7},
-                               {Mode::Dates, Mode::Moments, 6}, {Mode::Moments, Mode::Times, 7},
-                               {Mode::Times, Mode::Dates, 1},   {Mode::Dates, Mode::Times, 6}};
+constexpr Mode AllModes[] = {Mode::Times, Mode::Moments, Mode::Dates};
 
 struct Modes : Before<Mode::Times>
 {
@@ -74,31 +66,35 @@ TEST_F(Modes, TheWindowOpensSilentlyInThatOfTimesButForTheHolidays)
     ExpectOutcome(Mode::Times);
     EXPECT_EQ(form.Caption(), "Vellarno 2.0");
     EXPECT_EQ(form.size(), QSize(480, 312));
-    EXPECT_TRUE(CalendarIsClosed());
 }
 
 TEST_F(Modes, ASwitchEmptiesTheFieldsAndEnablesWhatTheModeUses)
 {
-    for (const auto& [from, to, beeps] : Switches) {
-        SCOPED_TRACE(testing::Message() << int(from) << " to " << int(to));
-        Fill(from);
-        Choose(from);
-        EXPECT_TRUE(HasResults()) << "chosen already";
-        Choose(to);
-        ExpectOutcome(to);
-        EXPECT_EQ(TakeLog(), QString("beep, ").repeated(beeps).toStdString() + "sound 202");
-    }
+    for (const Mode from : AllModes)
+        for (const Mode to : AllModes) {
+            SCOPED_TRACE(testing::Message() << int(from) << " to " << int(to));
+            Choose(from);
+            Fill(from);
+            Choose(from);
+            EXPECT_TRUE(HasResults()) << "chosen already";
+            if (from == to) continue;
+            Choose(to);
+            ExpectOutcome(to);
+            EXPECT_EQ(QString::fromStdString(TakeLog()).count("sound 202"), 1);
+        }
 }
 
 TEST_F(Modes, AnotherOneChosenWhileTheSoundServesEventsWinsWhole)
 {
-    for (const auto& [first, last, beeps] : Switches) {
-        for (const Mode mode : {Mode::Times, Mode::Moments, Mode::Dates})
-            if (mode != first && mode != last) Choose(mode);
-        Soon([this, to = last] { Choose(to); });
-        Choose(first);
-        ExpectOutcome(last);
-    }
+    for (const Mode before : AllModes)
+        for (const Mode first : AllModes)
+            for (const Mode last : AllModes) {
+                Choose(before);
+                if (first == before || last == first) continue;
+                Soon([this, last] { Choose(last); });
+                Choose(first);
+                ExpectOutcome(last);
+            }
 }
 
 TEST_F(Modes, ABoxRecalculatesCompleteDataAtOnce)

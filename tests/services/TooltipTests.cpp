@@ -38,7 +38,7 @@ struct Tooltip : testing::Test, Stage<Workbench>
     }
 };
 
-TEST_F(Tooltip, WaitsForItsDelayWhereThePointerRests)
+TEST_F(Tooltip, ComesAfterItsDelayWhereThePointerIs)
 {
     tip.SetDelayTime(1'000'000);
     tip.Create(form, false);
@@ -46,8 +46,8 @@ TEST_F(Tooltip, WaitsForItsDelayWhereThePointerRests)
     tip.SetDelayTime(50);
     tip.Create(form, false);
     const int left = Standing().x();
-    tip.Create(form, false);
     PutPointer(160, 100);
+    tip.Create(form, false);
     EXPECT_EQ(Standing().x(), left + 60);
 }
 

@@ -30,8 +30,6 @@ TEST_F(About, TellsWhatTheProgramIsAndTodaysDate)
     EXPECT_EQ(form.Caption(), "Informazioni");
     EXPECT_EQ(form.size(), QSize(433, 317));
     ExpectLayout(form, 3, Controls);
-    const auto& link = Find<forms::Label>(form, "lblEmail");
-    EXPECT_TRUE(link.font().underline());
     EXPECT_EQ(Find<forms::PictureBox>(form, "imgsito").PrintedText(), endpoints::WebSiteName);
     const auto& warning = Find<forms::Label>(form, "lblWarning");
     EXPECT_LE(warning.heightForWidth(warning.width()), warning.height());

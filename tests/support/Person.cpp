@@ -82,7 +82,7 @@ void Person::Commit(std::string_view Text) const
     if (subject->focusWidget()) QCoreApplication::sendEvent(subject->focusWidget(), &commit);
 }
 
-void Person::Mouse(QEvent::Type Act, Spot At, Button By, int Pause) const
+void Person::Mouse(QEvent::Type Act, Spot At, Qt::MouseButton By, int Pause) const
 {
     static Qt::MouseButtons held;
     static int mouseTime = 0;
@@ -114,10 +114,10 @@ QImage Person::Seen(const forms::Control& Of) const
 {
     QEvent painting(QEvent::UpdateRequest); // of what has changed alone, as on the screen
     QCoreApplication::sendEvent(subject, &painting);
-    const QRect at(Of.Widget().mapTo(subject, QPoint()), Of.Widget().size());
-    return subject->screen()
-        ->grabWindow(subject->winId(), at.x(), at.y(), at.width(), at.height())
-        .toImage();
+    const QPoint at = Of.Widget().mapTo(subject, QPoint());
+    const auto shown =
+        subject->screen()->grabWindow(subject->winId(), at.x(), at.y(), Of.Width(), Of.Height());
+    return shown.toImage();
 }
 
 std::string Row(const forms::ControlArray<forms::TextBox>& Boxes, int First, char Separator)

@@ -51,8 +51,6 @@ struct Spot
 class Person
 {
 public:
-    using Button = Qt::MouseButton;
-
     explicit Person(forms::Form& Before) : subject(&Before) {}
 
     /// Shows the window, or brings it back, until it is the active one.
@@ -70,20 +68,20 @@ public:
     void Commit(std::string_view Text) const;
 
     /// @param Pause  in milliseconds, since the mouse was last used.
-    void MouseDown(Spot At, Button By = Qt::LeftButton, int Pause = 1000) const
+    void MouseDown(Spot At, Qt::MouseButton By = Qt::LeftButton, int Pause = 1000) const
     {
         Mouse(QEvent::MouseButtonPress, At, By, Pause);
     }
-    void MouseUp(Spot At, Button By = Qt::LeftButton) const
+    void MouseUp(Spot At, Qt::MouseButton By = Qt::LeftButton) const
     {
         Mouse(QEvent::MouseButtonRelease, At, By);
     }
-    void Click(Spot At, Button By = Qt::LeftButton, int Pause = 1000) const
+    void Click(Spot At, Qt::MouseButton By = Qt::LeftButton, int Pause = 1000) const
     {
         MouseDown(At, By, Pause);
         MouseUp(At, By);
     }
-    void DoubleClick(Spot At, Button By = Qt::LeftButton) const
+    void DoubleClick(Spot At, Qt::MouseButton By = Qt::LeftButton) const
     {
         Click(At, By);
         Click(At, By, 1);
@@ -98,7 +96,7 @@ public:
     QImage Seen(const forms::Control& Of) const;
 
 private:
-    void Mouse(QEvent::Type Act, Spot At, Button By, int Pause = 1) const;
+    void Mouse(QEvent::Type Act, Spot At, Qt::MouseButton By, int Pause = 1) const;
 
     QPointer<forms::Form> subject;
 };

@@ -38,6 +38,18 @@ std::string Print(bool Used, std::initializer_list<std::int64_t> Numbers, char E
     return all;
 }
 
+/// Easter Monday as 100 times the month plus the day, by golden number and epact: Knuth, The Art of
+/// Computer Programming, volume 1, section 1.3.2, exercise 14.
+int EasterMonday(int Year)
+{
+    const int golden = Year % 19 + 1, century = Year / 100 + 1, leap = 3 * century / 4 - 12;
+    int epact = (11 * golden + 20 + (8 * century + 5) / 25 - 5 - leap + 60) % 30;
+    if ((epact == 25 && golden > 11) || epact == 24) ++epact;
+    int march = epact <= 23 ? 44 - epact : 74 - epact;
+    march += 7 - (5 * Year / 4 - leap - 10 + march) % 7;
+    return march < 31 ? 301 + march : 401 + march - 31;
+}
+
 /// Noon belongs to the day of even number.
 int Rounded(const PlainMoment& Moment)
 {
@@ -67,16 +79,6 @@ int PlainMonthLength(int Year, int Month)
     return lengths[Month] + (Month == 2 && leap ? 1 : 0);
 }
 
-int PlainEasterMonday(int Year)
-{
-    const int golden = Year % 19 + 1, century = Year / 100 + 1, leap = 3 * century / 4 - 12;
-    int epact = (11 * golden + 20 + (8 * century + 5) / 25 - 5 - leap + 60) % 30;
-    if ((epact == 25 && golden > 11) || epact == 24) ++epact;
-    int march = epact <= 23 ? 44 - epact : 74 - epact;
-    march += 7 - (5 * Year / 4 - leap - 10 + march) % 7;
-    return march < 31 ? 301 + march : 401 + march - 31;
-}
-
 void PlainDay::Step()
 {
     ++Serial;
@@ -85,12 +87,12 @@ void PlainDay::Step()
     Day = 1;
     if (++Month <= 12) return;
     Month = 1;
-    EasterMonday = PlainEasterMonday(++Year);
+    ++Year;
 }
 
 bool PlainDay::IsListed() const
 {
-    const int listed[] = {101, 106, 425, 501, 602, 815, 1101, 1208, 1225, 1226, EasterMonday};
+    const int listed[] = {101, 106, 425, 501, 602, 815, 1101, 1208, 1225, 1226, EasterMonday(Year)};
     return std::count(std::begin(listed), std::end(listed), 100 * Month + Day) != 0;
 }
 

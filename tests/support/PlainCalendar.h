@@ -8,14 +8,10 @@ namespace vellarno::test {
 
 int PlainMonthLength(int Year, int Month);
 
-/// Easter Monday as 100 times the month plus the day, by golden number and epact: Knuth, The Art of
-/// Computer Programming, volume 1, section 1.3.2, exercise 14.
-int PlainEasterMonday(int Year);
-
 /// A day that steps on by one; begins with Friday 01/01/0100.
 struct PlainDay
 {
-    int Serial = -657434, Year = 100, Month = 1, Day = 1, EasterMonday = PlainEasterMonday(100);
+    int Serial = -657434, Year = 100, Month = 1, Day = 1;
     int Weekday = 6; ///< 1 is Sunday
 
     void Step();

@@ -52,11 +52,7 @@ public:
 /// An empty form on which a test lays out the controls that it needs.
 struct Workbench : forms::Form
 {
-    Workbench() : Form(forms::FormBorder::FixedSingle)
-    {
-        setObjectName("workbench");
-        setFixedSize(400, 300);
-    }
+    Workbench() : Form(forms::FormBorder::FixedSingle) { setFixedSize(400, 300); }
 
     template <class ControlClass>
     ControlClass& Add(const char* Name, QRect Place = {0, 0, 80, 20}, QWidget* Container = nullptr)

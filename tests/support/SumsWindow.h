@@ -39,7 +39,6 @@ public:
     forms::CommandButton& cmdSommaData = Find<forms::CommandButton>(form, "cmdSommaData");
     forms::CommandButton& cmdClear = Find<forms::CommandButton>(form, "cmdClear");
     forms::CommandButton& cmdChiudi = Find<forms::CommandButton>(form, "cmdChiudi");
-    forms::Label& lblTitoloHelp = Find<forms::Label>(form, "lblTitoloHelp");
     forms::Label& lblHelpTxt = Find<forms::Label>(form, "lblHelpTxt");
 };
 
