@@ -68,8 +68,10 @@ class Program:
             env={name: str(value) for name, value in variables.items() if value is not None})
 
     def write(self, name, text):
-        (self.home / name).write_text(text)
-        return self.home / name
+        path = self.home / name
+        if not path.exists():  # another run that shares the home may be reading it
+            path.write_text(text)
+        return path
 
     def asked(self, tool):
         """What the desktop's program was asked for, once it was."""
