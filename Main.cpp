@@ -2,8 +2,8 @@
 #include "services/App.h"
 #include "services/GenericBas.h"
 #include "services/Platform.h"
-#include "services/platform/PrivateFile.h"
 #include "services/forms/Application.h"
+#include "services/platform/PrivateFile.h"
 
 #include <cstdlib>
 

@@ -1,10 +1,10 @@
 #include "services/GenericBas.h"
 
 #include "services/Platform.h"
-#include "services/platform/PrivateFile.h"
 #include "services/forms/CheckBox.h"
 #include "services/forms/CommandButton.h"
 #include "services/forms/OptionButton.h"
+#include "services/platform/PrivateFile.h"
 
 #include <filesystem>
 

@@ -1,6 +1,6 @@
+#include "services/SystemSettings.h"
 #include "services/platform/InstanceLock.h"
 #include "services/platform/PrivateFile.h"
-#include "services/SystemSettings.h"
 #include "tests/support/Stage.h"
 
 #include <filesystem>
