@@ -47,6 +47,7 @@ void frmAbout::Form_Load()
     ShowLinks();
     lblWarning.SetCaption(Disclaimer);
     ShowToday();
+    cmdChiudi.SetFocus();
 }
 
 void frmAbout::ShowLinks()
