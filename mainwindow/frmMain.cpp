@@ -72,11 +72,7 @@ void frmMain::Form_Load()
     SetHandCursor(imgOnTop);
     imgOnTop.SetPicture(resources::Path(resources::Pin::Off));
     imgOnTop.SetPressed(false);
-    BalloonTip.emplace();
-    BalloonTip->SetStyle(1);
-    BalloonTip->SetIcon(1);
-    BalloonTip->SetDelayTime(20);
-    DescribeTotals();
+    InitBalloons();
     PrepareResults();
     ShowCalendar(-1);
     imgGradiente.Move(0, -1, picOption.Width() - 1, picOption.Height() - 1);

@@ -177,6 +177,7 @@ private:
     void cmdNowTime_Click(int Index);
 
     // Balloons: frmMain_balloons.cpp
+    void InitBalloons();
     const char* MeaningOfTotal(int Index) const;
     void DescribeTotals();
     void lblTotali_MouseMove(int Index);

@@ -61,6 +61,15 @@ const char* frmMain::MeaningOfTotal(int Index) const
                                                              : 0];
 }
 
+void frmMain::InitBalloons()
+{
+    BalloonTip.emplace();
+    BalloonTip->SetStyle(1);
+    BalloonTip->SetIcon(1);
+    BalloonTip->SetDelayTime(20);
+    DescribeTotals();
+}
+
 // A balloon comes to the mouse alone: a screen reader finds its text with the figure.
 void frmMain::DescribeTotals()
 {
