@@ -33,7 +33,7 @@ std::string PrivateFolder()
 {
     const char* session = std::getenv("XDG_RUNTIME_DIR");
     if (session && *session == '/') {
-        const std::string folder = std::string(session) + "/vellarno";
+        std::string folder = std::string(session) + "/vellarno";
         if (TakeFolder(folder)) return folder;
     }
     const char* const temporaries[] = {std::getenv("TMPDIR"), P_tmpdir};

@@ -52,7 +52,7 @@ class ProgramTest(unittest.TestCase):
                     edge = place(f"Relative upper-left {side}")
                     room = screen - edge - place(size) - 1  # the far edge is 1 wide
                     self.assertAlmostEqual(place(f"Absolute upper-left {side}") - edge,
-                                           max(0, room // 2), delta=1)
+                                           max(0, room // 2), delta=scale)
 
     def test_a_balloon_lets_the_mouse_through(self):
         program = self.start()
