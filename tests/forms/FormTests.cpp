@@ -5,6 +5,7 @@
 #include "services/forms/PictureBox.h"
 #include "tests/support/Stage.h"
 
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 
@@ -98,17 +99,20 @@ TEST_F(Forms, ADoubleClickIsOneClick)
 TEST_F(Forms, AMessageBoxShowsItsTitleTextAndIconAndWaitsForOk)
 {
     const QColor blue(0x2F, 0x5F, 0x9E), red(0xC0, 0x30, 0x30);
+    const auto longLine = QStringLiteral("pagina ").repeated(15) + u'.'; // half a screen and more
     for (const auto style : {forms::Information, forms::Critical}) {
         QImage icon;
         Soon([&] {
             auto* message = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_TRUE(message);
             EXPECT_EQ(message->windowTitle(), "Titolo");
-            EXPECT_EQ(message->text(), "una riga\naltra riga");
+            EXPECT_EQ(message->text(), longLine + "\naltra riga");
+            const auto& text = *message->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+            EXPECT_GE(text.width(), text.fontMetrics().horizontalAdvance(longLine)) << "unbroken";
             icon = message->iconPixmap().toImage();
             message->buttons().at(0)->click();
         });
-        forms::MsgBox("una riga\r\naltra riga", style, "Titolo");
+        forms::MsgBox(longLine.toStdString() + "\r\naltra riga", style, "Titolo");
         EXPECT_GT(CountPoints(icon, style == forms::Critical ? red : blue), 100);
     }
 }

@@ -200,3 +200,20 @@ TEST_F(Calendar, IsClosedByWhatNeedsItsPlaceAndByNothingElse)
     PassTick();
     EXPECT_TRUE(CalendarIsOpen());
 }
+
+TEST_F(Calendar, TheLeftButtonAlonePressesAnArrow)
+{
+    OpenOn(3, 2021);
+    const Spot arrow =
+        hscDataScroll.geometry().translated(picCalendario.pos()).topLeft() + QPoint(6, 8);
+    hscDataScroll.SetFocus();
+    for (const auto button : {Qt::RightButton, Qt::MiddleButton}) {
+        const QImage before = Seen(hscDataScroll);
+        MouseDown(arrow, button);
+        EXPECT_EQ(Seen(hscDataScroll), before);
+        EXPECT_FALSE(QApplication::activePopupWidget());
+        Click(arrow);
+        MouseUp(arrow, button);
+    }
+    EXPECT_EQ(MonthOnShow(), " GEN 2021") << "also with another button down";
+}

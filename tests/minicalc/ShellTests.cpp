@@ -124,3 +124,21 @@ TEST(Sums, FadeInUntilTheyAreOpaqueOrClosed)
         EXPECT_EQ(form.windowOpacity() == 1, !closed);
     }
 }
+
+TEST_F(Shell, TheLegendOfTheValueStandsUnderItsDigits)
+{
+    for (const int format : {0, 1}) {
+        Click(optFormat[format]);
+        const QString text = lblTime[1].text();
+        const auto width = [&](qsizetype end) {
+            return lblTime[1].fontMetrics().horizontalAdvance(text.left(end));
+        };
+        const double left = lblTime[1].geometry().center().x() - width(text.size()) / 2.0;
+        for (const int part : {0, 1, 2}) {
+            const QChar letter = u"hms"[part];
+            const double letters =
+                left + (width(text.indexOf(letter)) + width(text.lastIndexOf(letter) + 1)) / 2.0;
+            EXPECT_NEAR(Spot(txtCalc[3 + part]).At.x() - picBase[0].Left(), letters, 2);
+        }
+    }
+}

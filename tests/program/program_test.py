@@ -54,6 +54,13 @@ class ProgramTest(unittest.TestCase):
                     self.assertAlmostEqual(place(f"Absolute upper-left {side}") - edge,
                                            max(0, room // 2), delta=scale)
 
+    def test_a_second_starts_message_lies_above_a_pinned_window(self):
+        first = self.start()
+        first.click("imgOnTop")
+        message = self.start(beside=first).window(MESSAGE)
+        above = lambda: output("xprop", "-root", "_NET_CLIENT_LIST_STACKING").split()[-1]
+        wait(lambda: int(above(), 16) == int(message), "the message above the window")
+
     def test_a_balloon_lets_the_mouse_through(self):
         program = self.start()
         program.hover("lblTotali_8")

@@ -3,6 +3,8 @@
 #include "tests/support/Layout.h"
 #include "tests/support/Stage.h"
 
+#include <cmath>
+
 using namespace vellarno::test;
 
 constexpr LayoutRow Controls[] = {
@@ -57,4 +59,18 @@ TEST(AboutBox, ClosesByItsButtonItsKeysAndItsLinks)
         box.Press(key);
         EXPECT_EQ(OpenWindows(), "");
     }
+}
+
+TEST(Contrast, IsEnoughForFieldsAndGreyLetters)
+{
+    const auto light = [](const QColor& of) { // as the Web Content Accessibility Guidelines have it
+        const auto linear = [](double part) { return std::pow((part + 0.055) / 1.055, 2.4); };
+        return 0.2126 * linear(of.redF()) + 0.7152 * linear(of.greenF()) +
+               0.0722 * linear(of.blueF()) + 0.05;
+    };
+    using namespace forms::palette;
+    const frmAbout about;
+    const auto grey = forms::ColorOf(Find<forms::Label>(about, "Label3").ForeColor());
+    EXPECT_GE(light(Ground) / light(grey), 4.5);
+    for (const QColor& around : {Panel, Ground}) EXPECT_GE(light(around) / light(FieldEdge), 3);
 }
