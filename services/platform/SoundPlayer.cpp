@@ -23,21 +23,16 @@ constexpr std::chrono::milliseconds Patience{100};
 /// The last resort of the service, the bare sound card, reports a missing one on the terminal.
 void IgnoreReport(const char*, int, const char*, int, const char*, ...) {}
 
-struct Closing
-{
-    void operator()(ca_context* Context) const { ca_context_destroy(Context); }
-};
-using SoundService = std::unique_ptr<ca_context, Closing>;
-
-/// The desktop's sounds, or nothing where there are none.
-SoundService Connect()
+/// The desktop's sounds, or nothing where there are none. Never given back: a driver may still be
+/// returning from a sound when the program ends.
+ca_context* Connect()
 {
     snd_lib_error_set_handler(&IgnoreReport);
-    ca_context* context = nullptr;
+    static ca_context* context = nullptr;
     if (ca_context_create(&context) != CA_SUCCESS) return nullptr;
     ca_context_change_props(context, CA_PROP_APPLICATION_NAME, "Vellarno", CA_PROP_APPLICATION_ID,
                             "vellarno", nullptr);
-    return SoundService(context);
+    return context;
 }
 
 /// The service reads sounds from files: the image stands in a file that is in memory alone.
@@ -67,7 +62,7 @@ struct SoundPlayer::Channel
 
     void Serve()
     {
-        SoundService service = Connect();
+        ca_context* const service = Connect();
         std::unique_lock lock(mutex);
         for (;;) {
             changed.wait(lock, [this] { return waiting || ending; });
@@ -75,12 +70,9 @@ struct SoundPlayer::Channel
             const std::string image = std::move(*waiting);
             waiting.reset();
             lock.unlock();
-            PlayImage(service.get(), image);
+            PlayImage(service, image);
             lock.lock();
         }
-        lock.unlock();
-        service.reset();
-        lock.lock();
         ended = true;
         changed.notify_all();
     }
