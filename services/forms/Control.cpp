@@ -148,11 +148,13 @@ Control::KeyFate Control::FilterKey(const QKeyEvent& Event, short& KeyAscii)
 }
 
 /// The second press of a double click whose first one made place for this control is nobody's.
-bool Control::BelongsElsewhere(const QEvent& Event) const
+bool Control::BelongsElsewhere(const QEvent& Event)
 {
-    static const Control* pressed = nullptr;
-    if (Event.type() == QEvent::MouseButtonPress) pressed = this;
-    return Event.type() == QEvent::MouseButtonDblClick && pressed != this;
+    static const Control* first = nullptr;
+    if (Event.type() == QEvent::MouseButtonPress) first = this;
+    if (Event.type() == QEvent::MouseButtonPress || Event.type() == QEvent::MouseButtonDblClick)
+        again = Event.type() == QEvent::MouseButtonDblClick;
+    return Event.type() == QEvent::MouseButtonDblClick && first != this;
 }
 
 bool Control::BeforeEvent(QEvent& Event)
@@ -216,7 +218,6 @@ void Control::TellMouse(const QMouseEvent& Event)
     if (Event.type() == QEvent::MouseMove) {
         if (MouseMove) MouseMove();
     } else if (Event.type() != QEvent::MouseButtonRelease) {
-        again = Event.type() == QEvent::MouseButtonDblClick;
         if (MouseDown) MouseDown();
     } else {
         if (MouseUp) MouseUp();

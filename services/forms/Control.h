@@ -133,7 +133,7 @@ protected:
     Form* ParentForm() const;
 
 private:
-    bool BelongsElsewhere(const QEvent& Event) const;
+    bool BelongsElsewhere(const QEvent& Event);
     void UpdatePointer();
     void TellMouse(const QMouseEvent& Event);
 
