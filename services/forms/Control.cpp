@@ -166,7 +166,9 @@ bool Control::BeforeEvent(QEvent& Event)
     auto& key = static_cast<QKeyEvent&>(Event);
     if (Form* form = ParentForm(); form && form->PressDialogButton(key)) return true;
     const Key pressed = KeyOf(key);
-    if (KeyDown && KeyDown(pressed)) return true;
+    const bool presses = pressed == Key::Space || pressed == Key::Enter;
+    // A key that is held down goes on moving, but presses once: it may have opened what hears it.
+    if (KeyDown && !(presses && key.isAutoRepeat()) && KeyDown(pressed)) return true;
     short code = 0;
     const KeyFate fate = FilterKey(key, code);
     if (fate == KeyFate::Swallowed) {
@@ -180,7 +182,6 @@ bool Control::BeforeEvent(QEvent& Event)
         filtered = false;
         return true;
     }
-    const bool presses = pressed == Key::Space || pressed == Key::Enter;
     if (!presses || !ClickedByMouse() || !Click) return false;
     if (!key.isAutoRepeat()) Click();
     return true;

@@ -166,6 +166,15 @@ TEST_F(Calendar, KeysMoveAMarkOverTheDaysAndTakeOne)
     }
 }
 
+TEST_F(Calendar, TheKeyThatOpensItTakesNoDayWhileItIsHeld)
+{
+    cmdNowData[0].SetFocus();
+    Press(Qt::Key_Return);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &repeated);
+    EXPECT_TRUE(CalendarIsOpen());
+}
+
 TEST_F(Calendar, TheMarkIsSeenWhileTheKeysMoveIt)
 {
     const auto points = [&](int cell) {
