@@ -90,7 +90,7 @@ private:
     std::array<bool, TotalCount> BalloonShown{};
     std::optional<StatusBar> StatusStrip;
     std::optional<CTooltip> BalloonTip;
-    forms::FormRef<frmMiniCalc> Sums;
+    forms::FormPointer<frmMiniCalc> Sums;
     static const std::array<Segment, 6> DateRules;
     static const std::array<Segment, 6> TimeRules;
     const SegmentedField DateField{txtData, DateRules};

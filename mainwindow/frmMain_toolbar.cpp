@@ -20,7 +20,7 @@ void frmMain::picToolBarra_Click(int Index)
     case SequentialSums:
         PlayResSound(resources::Sound::Opening);
         if (!Visible()) break; // closed while the sound served events
-        if (!Sums.Open()) Sums.Set(NewOwned<frmMiniCalc>());
+        if (!Sums || !Sums->Visible()) Sums = &NewOwned<frmMiniCalc>();
         Sums->Show();
         break;
     default: break;

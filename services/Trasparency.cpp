@@ -23,10 +23,9 @@ bool IsLayeredCapable()
 void FadeInForm(forms::Form& Form)
 {
     if (!IsLayeredCapable()) return;
-    const forms::FormRef form(Form);
     Form.SetAlpha(FirstAlpha);
     Form.Show();
-    for (int alpha = FirstAlpha; alpha <= Opaque && form.Open(); ++alpha) {
+    for (int alpha = FirstAlpha; alpha <= Opaque && Form.Visible(); ++alpha) {
         Form.SetAlpha(alpha);
         std::this_thread::sleep_for(StepTime);
         forms::DoEvents();

@@ -41,20 +41,11 @@ Form::Form(FormBorder Border) : QWidget(nullptr, FlagsOf(Border)), border(Border
     setMouseTracking(true);
 }
 
-Form::~Form()
-{
-    if (modalLoop) modalLoop->quit();
-}
-
 bool Form::LoadOnce()
 {
     closed = false;
-    if (loaded) return true;
-    loaded = true;
-    const QPointer<Form> alive = this;
-    const auto load = std::exchange(Load, nullptr); // outlives a window that is closed meanwhile
-    if (load) load();
-    return alive && !closed;
+    if (!std::exchange(loaded, true) && Load) Load();
+    return !closed;
 }
 
 void Form::UnloadAll()
@@ -81,6 +72,7 @@ void Form::Place()
 
 void Form::Show()
 {
+    const EventUnderWay underWay(*this);
     if (!LoadOnce()) return;
     if (!isVisible()) {
         Place();
@@ -94,15 +86,15 @@ void Form::Show()
 
 void Form::ShowModal()
 {
+    const EventUnderWay underWay(*this);
     setWindowModality(Qt::ApplicationModal);
     if (!LoadOnce()) return;
     QEventLoop loop;
     modalLoop = &loop;
-    const QPointer<Form> alive = this;
     Place();
     show();
     loop.exec(QEventLoop::DialogExec);
-    if (alive) modalLoop = nullptr;
+    modalLoop = nullptr;
 }
 
 void Form::SetHeight(int Twips)

@@ -26,7 +26,6 @@ public:
     bool KeyPreview = false; ///< KeyPress sees every key before the control that has the focus
 
     explicit Form(FormBorder Border);
-    ~Form() override;
 
     /// A further window, above this one. This one owns it: it goes with it, or by itself once it
     /// has been closed and its events are served.
@@ -96,22 +95,9 @@ private:
     friend class EventUnderWay;
 };
 
-/// Refers to a form that may be closed, and then destroyed, while events are served.
-template <class FormClass = Form>
-class FormRef
-{
-public:
-    FormRef() = default;
-    explicit FormRef(FormClass& Referred) : form(&Referred) {}
-
-    void Set(FormClass& Referred) { form = &Referred; }
-    /// Whether the window is still there and on screen.
-    bool Open() const { return form && form->isVisible(); }
-    FormClass* operator->() const { return form.data(); }
-
-private:
-    QPointer<FormClass> form;
-};
+/// A form that may be closed, and then destroyed: then this points to nothing.
+template <class FormClass>
+using FormPointer = QPointer<FormClass>;
 
 /// A form laid out by a class that the .ui compiler made, with its controls as members of `ui`.
 template <class Layout>
