@@ -48,7 +48,7 @@ std::array<YearFigure, 5> FiguresOf(DayNumber Today)
 
 void frmMain::InitStatusStrip()
 {
-    picBarra[0].SetMousePointer(forms::HelpPointer);
+    picBarra[0].SetMousePointer(forms::Pointer::Help);
     for (int index = 1; index <= ClockPanel; ++index) picBarra.Load(index).SetVisible(true);
     StatusStrip.emplace();
     StatusStrip->Create(*this);
@@ -75,8 +75,8 @@ void frmMain::UpdateStatusStrip(DayNumber Today)
         panel.Cls();
         panel.SetCurrentY(1);
     }
-    picBarra[DatePanel].SetMousePointer(forms::DefaultPointer);
-    picBarra[ClockPanel].SetMousePointer(forms::DefaultPointer);
+    picBarra[DatePanel].SetMousePointer(forms::Pointer::Default);
+    picBarra[ClockPanel].SetMousePointer(forms::Pointer::Default);
     const std::string today = Format(Today, " dddd  dd mmm yyyy");
     PrintCentred(picBarra[DatePanel], today);
     picBarra[DatePanel].SetAccessibleName("Data di oggi:" + today);

@@ -5,9 +5,6 @@
 
 namespace vellarno::resources {
 
-/// The pointing hand over what can be pressed; each desktop draws its own.
-inline constexpr int HandCursor = 101;
-
 inline constexpr const char* HelpPage = ":/HelpVellarno.htm";
 
 /// Of the calculator that opens, and of an option or check box.

@@ -14,8 +14,7 @@ bool OnTopFlag = false;
 
 void SetHandCursor(forms::Control& Control)
 {
-    Control.SetMousePointer(forms::CustomPointer);
-    Control.SetMouseIcon(resources::HandCursor);
+    Control.SetMousePointer(forms::Pointer::Hand);
 }
 
 void SetHandCursor(const forms::Form& Form)

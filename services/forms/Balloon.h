@@ -39,7 +39,6 @@ public:
 
     std::string Title() const { return title.toStdString(); }
     std::string Text() const { return text.toStdString(); }
-    int Icon() const { return icon; }
 
 protected:
     bool eventFilter(QObject* Watched, QEvent* Event) override;

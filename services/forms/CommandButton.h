@@ -17,7 +17,6 @@ class CommandButton : public ControlOf<QPushButton>
 public:
     explicit CommandButton(QWidget* Parent = nullptr);
 
-    std::string Caption() const { return text().toStdString(); }
     QString Picture() const { return picture; }
     void SetPicture(const QString& Path);
 

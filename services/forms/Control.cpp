@@ -86,26 +86,13 @@ void Control::SetFontBold(bool Bold)
     self.setFont(font);
 }
 
-void Control::SetMousePointer(int Pointer)
+void Control::SetMousePointer(Pointer Over)
 {
-    if (std::exchange(pointer, Pointer) != Pointer) UpdatePointer();
-}
-
-void Control::SetMouseIcon(int ResourceId)
-{
-    if (std::exchange(icon, ResourceId) != ResourceId) UpdatePointer();
-}
-
-void Control::UpdatePointer()
-{
-    if (pointer == HelpPointer)
-        self.setCursor(Qt::WhatsThisCursor);
-    else if (pointer == HourglassPointer)
-        self.setCursor(Qt::WaitCursor);
-    else if (pointer == CustomPointer && icon != 0)
-        self.setCursor(Qt::PointingHandCursor);
-    else
-        self.unsetCursor();
+    switch (Over) {
+    case Pointer::Default: self.unsetCursor(); break;
+    case Pointer::Help: self.setCursor(Qt::WhatsThisCursor); break;
+    case Pointer::Hand: self.setCursor(Qt::PointingHandCursor); break;
+    }
 }
 
 void Control::SetMenu(const std::vector<MenuEntry>& Entries)
@@ -141,12 +128,6 @@ Control::KeyFate Control::FilterCharacter(short& KeyAscii)
     return KeyAscii == original ? KeyFate::Unchanged : KeyFate::Replaced;
 }
 
-Control::KeyFate Control::FilterKey(const QKeyEvent& Event, short& KeyAscii)
-{
-    KeyAscii = CharacterCode(Event);
-    return KeyAscii == 0 ? KeyFate::Unchanged : FilterCharacter(KeyAscii);
-}
-
 /// The second press of a double click whose first one made place for this control is nobody's.
 bool Control::BelongsElsewhere(const QEvent& Event)
 {
@@ -169,8 +150,8 @@ bool Control::BeforeEvent(QEvent& Event)
     const bool presses = pressed == Key::Space || pressed == Key::Enter;
     // A key that is held down goes on moving, but presses once: it may have opened what hears it.
     if (KeyDown && !(presses && key.isAutoRepeat()) && KeyDown(pressed)) return true;
-    short code = 0;
-    const KeyFate fate = FilterKey(key, code);
+    short code = CharacterCode(key);
+    const KeyFate fate = code == 0 ? KeyFate::Unchanged : FilterCharacter(code);
     if (fate == KeyFate::Swallowed) {
         key.accept();
         return true;

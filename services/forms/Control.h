@@ -16,13 +16,8 @@ namespace vellarno::forms {
 
 class Form;
 
-/// Mouse pointers that the windows use. Custom shows the hand that SetMouseIcon gave.
-enum MousePointer {
-    DefaultPointer = 0,
-    HourglassPointer = 11,
-    HelpPointer = 14,
-    CustomPointer = 99
-};
+/// The mouse pointers over controls; each desktop draws its own.
+enum class Pointer { Default, Help, Hand };
 
 /// Keys without a character, and the two that press a control.
 enum class Key { Other, Left, Right, Up, Down, PageUp, PageDown, Home, End, Enter, Space };
@@ -98,11 +93,7 @@ public:
     bool FontBold() const { return self.font().bold(); }
     void SetFontBold(bool Bold);
 
-    int MousePointer() const { return pointer; }
-    void SetMousePointer(int Pointer);
-    /// The pointer that CustomPointer shows; the only one that the program carries is the hand.
-    int MouseIcon() const { return icon; }
-    void SetMouseIcon(int ResourceId);
+    void SetMousePointer(Pointer Over);
 
     /// A menu of its own; an entry field has these entries after those of its editing.
     void SetMenu(const std::vector<MenuEntry>& Entries);
@@ -113,11 +104,8 @@ public:
 protected:
     explicit Control(QWidget& Widget);
 
-    /// The key's way before the widget sees it: the form's default and cancel button, the form's
-    /// KeyPress, the control's own. Gives the code that is left, or nothing for a key that raises
-    /// no KeyPress.
+    /// What became of a key on its way through the KeyPress of the form and of the control.
     enum class KeyFate { Unchanged, Replaced, Swallowed };
-    KeyFate FilterKey(const QKeyEvent& Event, short& KeyAscii);
     KeyFate FilterCharacter(short& KeyAscii);
 
     /// Before and after the widget's own handling. True: the event goes no further.
@@ -134,12 +122,9 @@ protected:
 
 private:
     bool BelongsElsewhere(const QEvent& Event);
-    void UpdatePointer();
     void TellMouse(const QMouseEvent& Event);
 
     QWidget& self;
-    int pointer = DefaultPointer;
-    int icon = 0;
     bool filtered = false; ///< the key under way has passed the filter already
     bool again = false;    ///< the button is down for the second time of a double click
     friend class Form;

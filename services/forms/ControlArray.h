@@ -30,7 +30,6 @@ public:
     /// The element of that index. Asking for one that isn't there is a fault of the program.
     ControlClass& operator[](int Index) const { return *elements.at(Index); }
     bool Has(int Index) const { return elements.contains(Index); }
-    int Count() const { return static_cast<int>(elements.size()); }
 
     /// Runs over the elements in the order of their indexes.
     class Iterator
@@ -70,8 +69,6 @@ public:
         ControlClass& model = (*this)[0];
         auto* made = new ControlClass(model.parentWidget()); // its container owns it
         CopyProperties(model, *made);
-        made->SetMousePointer(model.MousePointer());
-        made->SetMouseIcon(model.MouseIcon());
         made->setObjectName(name + QString::number(Index));
         made->hide();
         elements[Index] = made;
@@ -81,7 +78,8 @@ public:
 private:
     static void CopyProperties(const ControlClass& From, ControlClass& To)
     {
-        static const QStringList common = {"geometry", "font", "toolTip", "enabled", "focusPolicy"};
+        static const QStringList common = {"geometry", "font",        "toolTip",
+                                           "enabled",  "focusPolicy", "cursor"};
         const QMetaObject* type = From.metaObject();
         for (int i = 0; i < type->propertyCount(); ++i) {
             const QMetaProperty property = type->property(i);

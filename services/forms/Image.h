@@ -18,8 +18,7 @@ class Image : public ControlOf<QWidget>
 public:
     explicit Image(QWidget* Parent = nullptr) : ControlOf<QWidget>(Parent) {}
 
-    /// Path of the picture among the resources.
-    std::string Picture() const { return picture.toStdString(); }
+    /// @param Path  of the picture among the resources.
     void SetPicture(const std::string& Path) { SetPicturePath(QString::fromStdString(Path)); }
 
     QString PicturePath() const { return picture; }

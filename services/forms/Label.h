@@ -27,10 +27,8 @@ public:
     void FitWidth() { SetWidth(sizeHint().width()); }
     unsigned int ForeColor() const { return foreColor; }
     void SetForeColor(unsigned int Value);
-    /// A transparent background lets what lies behind show; an opaque one is BackColor.
-    bool BackOpaque() const { return backOpaque; }
+    /// A transparent background lets what lies behind show; an opaque one is its BackColor.
     void SetBackOpaque(bool Opaque);
-    unsigned int BackColor() const { return backColor; }
     void SetBackColor(unsigned int Value);
     forms::Look GetLook() const { return look; }
     void SetLook(forms::Look Kind);

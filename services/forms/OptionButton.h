@@ -17,7 +17,6 @@ public:
 
     bool Value() const { return isChecked(); }
     void SetValue(bool On) { setChecked(On); }
-    std::string Caption() const { return text().toStdString(); }
 
 protected:
     void focusInEvent(QFocusEvent* Event) override;

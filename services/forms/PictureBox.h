@@ -18,8 +18,6 @@ public:
 
     /// Takes away all that was printed; the drawing position is the upper left corner again.
     void Cls();
-    int CurrentX() const { return currentX; }
-    int CurrentY() const { return currentY; }
     void SetCurrentX(int Pixels) { currentX = Pixels; }
     void SetCurrentY(int Pixels) { currentY = Pixels; }
     int TextWidth(const std::string& Text) const;

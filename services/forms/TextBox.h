@@ -25,7 +25,6 @@ public:
     void SetText(const std::string& Text) { setText(QString::fromStdString(Text)); }
     int MaxLength() const { return maxLength(); }
     void SetMaxLength(int Characters) { setMaxLength(Characters); }
-    int SelStart() const { return hasSelectedText() ? selectionStart() : cursorPosition(); }
     int SelLength() const { return selectionLength(); }
     void Select(int SelStart, int SelLength) { setSelection(SelStart, SelLength); }
 
