@@ -10,22 +10,22 @@ namespace vellarno {
 namespace {
 
 /// True unless the weekday alone makes the day free.
-bool IsWeekdayOfWork(DayNumber Day, bool SaturdayIsHoliday)
+bool IsWeekdayOfWork(DayNumber Serial, bool SaturdayIsHoliday)
 {
-    const int number = Weekday(Day, Sunday);
+    const int number = Weekday(Serial, Sunday);
     return number != Sunday && !(SaturdayIsHoliday && number == Saturday);
 }
 
 /// Holidays of one year, those from the day End on left out.
-int HolidaysOfYear(int Year, bool SaturdayIsHoliday, DayNumber End = LastDate + 1)
+int HolidaysOfYear(int Anno, bool SaturdayIsHoliday, DayNumber End = LastDate + 1)
 {
     const auto counts = [&](DayNumber Holiday) {
         return Holiday < End && IsWeekdayOfWork(Holiday, SaturdayIsHoliday);
     };
-    const DayNumber monday = EasterDate(Year) + 1;
+    const DayNumber monday = EasterDate(Anno) + 1;
     int count = counts(monday) ? 1 : 0;
     for (const DayOfYear& each : FixedHolidays) {
-        const DayNumber holiday = DateSerial(Year, each.Month, each.Day);
+        const DayNumber holiday = DateSerial(Anno, each.Month, each.Day);
         if (holiday != monday && counts(holiday)) ++count;
     }
     return count;

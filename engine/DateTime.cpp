@@ -21,9 +21,9 @@ year_month_day CivilDate(DateValue x)
     return Epoch + days{Int(x)};
 }
 
-DayNumber Serial(sys_days Day)
+DayNumber Serial(sys_days Of)
 {
-    return static_cast<DayNumber>((Day - Epoch).count());
+    return static_cast<DayNumber>((Of - Epoch).count());
 }
 
 int ClockSecond(DateValue x)
@@ -70,11 +70,11 @@ constexpr std::array<Step, 7> Steps{{{"s", 1, AddSeconds},
 
 }
 
-DayNumber DateSerial(int Year, int Month, int Day)
+DayNumber DateSerial(int Anno, int Mese, int Giorno)
 {
-    if (Year >= 0 && Year < 100) Year += Year < 30 ? 2000 : 1900;
-    const auto firstMonth = year{Year} / January;
-    return Serial(sys_days{(firstMonth + (months{Month} - months{1})) / 1} + days{Day} - days{1});
+    if (Anno >= 0 && Anno < 100) Anno += Anno < 30 ? 2000 : 1900;
+    const auto firstMonth = year{Anno} / January;
+    return Serial(sys_days{(firstMonth + (months{Mese} - months{1})) / 1} + days{Giorno} - days{1});
 }
 
 DateValue TimeSerial(int Hours, int Minutes, int Seconds)

@@ -23,8 +23,8 @@ constexpr int LastYear = 2100;
 
 /// The day at 00:00:00. Month and day may lie outside their range and carry over: day 0 is the last
 /// day of the month before, month 13 the next January.
-/// @param Year  0 to 29 stand for 2000 to 2029, 30 to 99 for 1930 to 1999; else literal, to 9999.
-DayNumber DateSerial(int Year, int Month, int Day);
+/// @param Anno  0 to 29 stand for 2000 to 2029, 30 to 99 for 1930 to 1999; else literal, to 9999.
+DayNumber DateSerial(int Anno, int Mese, int Giorno);
 
 /// The time of day as a fraction of a day; 12:00:00 is exactly 0.5.
 DateValue TimeSerial(int Hours, int Minutes, int Seconds);

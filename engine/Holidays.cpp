@@ -4,12 +4,12 @@
 
 namespace vellarno {
 
-DayNumber EasterDate(int Year)
+DayNumber EasterDate(int Anno)
 {
-    if (Year < 0 || Year > 9999) return 0;
-    const int a = Year % 19;
-    const int b = Year / 100;
-    const int c = Year % 100;
+    if (Anno < 0 || Anno > 9999) return 0;
+    const int a = Anno % 19;
+    const int b = Anno / 100;
+    const int c = Anno % 100;
     const int d = b / 4;
     const int e = b % 4;
     const int f = (b + 8) / 25;
@@ -20,7 +20,7 @@ DayNumber EasterDate(int Year)
     const int l = (32 + 2 * e + 2 * i - h - k) % 7;
     const int m = (a + 11 * h + 22 * l) / 451;
     const int n = h + l - 7 * m + 114;
-    return DateSerial(Year, n / 31, n % 31 + 1);
+    return DateSerial(Anno, n / 31, n % 31 + 1);
 }
 
 bool IsHoliday(DayNumber Serial, DayNumber MondayNumber)

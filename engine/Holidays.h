@@ -18,8 +18,8 @@ constexpr std::array<DayOfYear, 10> FixedHolidays{
 
 /// Day number of Easter Sunday (Gregorian, proleptic before 1583), 0 for a year outside 0 to 9999.
 /// Anonymous Gregorian computus, as given by Meeus, Astronomical Algorithms, chapter 8.
-/// @param Year  below 100 read as by DateSerial.
-DayNumber EasterDate(int Year);
+/// @param Anno  below 100 read as by DateSerial.
+DayNumber EasterDate(int Anno);
 
 /// True for a Sunday, a fixed holiday or Easter Monday.
 /// @param MondayNumber  EasterDate + 1 of the year in which the day lies.

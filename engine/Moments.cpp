@@ -4,17 +4,17 @@
 
 namespace vellarno {
 
-MomentPeriod OrderMoments(Moment First, Moment Second)
+MomentPeriod OrderMoments(Moment One, Moment Other)
 {
-    if (First.Value() > Second.Value()) std::swap(First, Second);
-    const auto startTime = static_cast<float>(First.TimeOfDay);
-    const auto endTime = static_cast<float>(Second.TimeOfDay);
+    if (One.Value() > Other.Value()) std::swap(One, Other);
+    const auto startTime = static_cast<float>(One.TimeOfDay);
+    const auto endTime = static_cast<float>(Other.TimeOfDay);
     constexpr float Noon = 0.5F;
 
-    DateValue countedEnd = Second.Value();
+    DateValue countedEnd = Other.Value();
     if (startTime > endTime) countedEnd -= 1;
     if (startTime < Noon && endTime > Noon) countedEnd -= 0.5;
-    return {First.Value(), Second.Value(), countedEnd};
+    return {One.Value(), Other.Value(), countedEnd};
 }
 
 }

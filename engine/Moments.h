@@ -25,6 +25,6 @@ struct MomentPeriod
 /// day that isn't complete is taken off, and an afternoon end after a morning start is moved to the
 /// morning, so that both ends round to their own dates. An end at exactly 12:00:00 is left in the
 /// middle of two days: rounding takes the even one, as often the day before as the day after.
-MomentPeriod OrderMoments(Moment First, Moment Second);
+MomentPeriod OrderMoments(Moment One, Moment Other);
 
 }

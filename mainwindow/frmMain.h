@@ -165,7 +165,7 @@ private:
     void AnnounceStep();
     void txtCalMeseAnno_GotFocus();
     void FillCalendar(int Mese, int Anno);
-    void FillDay(forms::Label& Cell, int Serial, int Mese, int MondayNumber);
+    void FillDay(forms::Label& Cell, DayNumber Serial, int Mese, DayNumber MondayNumber);
     void GIORNO_MouseDown(int Index);
     void GIORNO_MouseUp(int Index);
     void GIORNO_Click(int Index);

@@ -10,7 +10,7 @@ namespace vellarno {
 
 namespace {
 
-int Number(const forms::TextBox& Box)
+int NumberIn(const forms::TextBox& Box)
 {
     return CInt(Box.Text()).value_or(0);
 }
@@ -58,14 +58,14 @@ void frmMain::CompareDates()
 
 DayNumber frmMain::TypedDate(int First) const
 {
-    return DateSerial(Number(txtData[First + 2]), Number(txtData[First + 1]),
-                      Number(txtData[First]));
+    return DateSerial(NumberIn(txtData[First + 2]), NumberIn(txtData[First + 1]),
+                      NumberIn(txtData[First]));
 }
 
 DateValue frmMain::TypedTime(int First) const
 {
-    return TimeSerial(Number(txtTime[First]), Number(txtTime[First + 1]),
-                      Number(txtTime[First + 2]));
+    return TimeSerial(NumberIn(txtTime[First]), NumberIn(txtTime[First + 1]),
+                      NumberIn(txtTime[First + 2]));
 }
 
 // Before the two are put in order: each weekday stays beside the date that was typed there.

@@ -20,7 +20,7 @@ constexpr int YearBefore = 0;
 constexpr int YearAfter = 13;
 
 /// The day in full, as it is read aloud: lunedì 3 gennaio 2005.
-std::string SpokenDay(int Serial, bool Holiday)
+std::string SpokenDay(DayNumber Serial, bool Holiday)
 {
     return Format(Serial, "dddd d mmmm yyyy") + (Holiday ? ", festivo" : "");
 }
@@ -119,7 +119,7 @@ void frmMain::AnnounceStep()
 bool frmMain::picOption_KeyDown(forms::Key Pressed)
 {
     if (!picCalendario.Visible()) return false;
-    const int marked = FirstDay() + CalGiorno - 1;
+    const DayNumber marked = FirstDay() + CalGiorno - 1;
     using forms::Key;
     switch (Pressed) {
     case Key::Left: MoveMark(marked - 1); break;
@@ -180,11 +180,11 @@ void frmMain::FillCalendar(int Mese, int Anno)
 {
     const DayNumber first = DateSerial(Anno, Mese, 1);
     txtCalMeseAnno.SetText(InCapitals(Format(first, " mmm yyyy")));
-    const int monday = first - Weekday(first, Monday) + 1;
-    const int easterMonday = EasterDate(Year(monday)) + 1;
+    const DayNumber monday = first - Weekday(first, Monday) + 1;
+    const DayNumber easterMonday = EasterDate(Year(monday)) + 1;
     shpOggi.SetVisible(false);
     PlaceMark();
-    int serial = monday;
+    DayNumber serial = monday;
     for (auto& cell : GIORNO) FillDay(cell, serial++, Mese, easterMonday);
     const int today = Date() - monday + 1;
     if (!GIORNO.Has(today) || !GIORNO[today].Enabled()) return;
@@ -194,7 +194,7 @@ void frmMain::FillCalendar(int Mese, int Anno)
 }
 
 // The days that fill the grid before and after the month keep the colour and weight they had.
-void frmMain::FillDay(forms::Label& Cell, int Serial, int Mese, int MondayNumber)
+void frmMain::FillDay(forms::Label& Cell, DayNumber Serial, int Mese, DayNumber MondayNumber)
 {
     const bool shown = Month(Serial) == Mese;
     Cell.SetEnabled(shown);

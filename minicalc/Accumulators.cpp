@@ -21,10 +21,10 @@ ClockTime AddOnClock(ClockTime Total, ClockTime Step)
     return {Hour(moment), Minute(moment), Second(moment)};
 }
 
-std::optional<DateValue> StepDate(std::string_view Date, const DateUnit& Unit,
+std::optional<DateValue> StepDate(std::string_view From, const DateUnit& Unit,
                                   std::string_view Quantity, bool Subtract)
 {
-    const auto start = CDate(Date);
+    const auto start = CDate(From);
     const auto number = CInt(Quantity);
     if (!start || !number) return std::nullopt;
     return DateAdd(Unit.Interval, Subtract ? -*number : *number, *start);

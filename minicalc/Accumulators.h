@@ -36,7 +36,7 @@ inline constexpr DateUnit DateUnits[] = {{"giorni", "d", "0000"},
 /// The date that a text "day/month/year" names, moved by a quantity of a unit.
 /// @param Quantity  as it was typed.
 /// @return nothing for no date, no quantity, or a result that no date value can hold.
-std::optional<DateValue> StepDate(std::string_view Date, const DateUnit& Unit,
+std::optional<DateValue> StepDate(std::string_view From, const DateUnit& Unit,
                                   std::string_view Quantity, bool Subtract);
 
 }

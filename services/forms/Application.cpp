@@ -34,7 +34,7 @@ void NoteSignal(int)
 class Arguments
 {
 public:
-    Arguments(int Count, char** Given) : all(Given, Given + Count)
+    Arguments(int Length, char** Given) : all(Given, Given + Length)
     {
         if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
         // Wayland is found in the session's folder; its library tells the terminal in English where

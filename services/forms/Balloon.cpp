@@ -91,16 +91,16 @@ void Balloon::LetMouseThrough()
     for (const bool on : {false, true}) windowHandle()->setFlag(Qt::WindowTransparentForInput, on);
 }
 
-void Balloon::SetHeading(const std::string& Title, int Icon)
+void Balloon::SetHeading(const std::string& Words, int Icon)
 {
-    title = QString::fromStdString(Title);
+    title = QString::fromStdString(Words);
     icon = Icon;
     Changed();
 }
 
-void Balloon::SetText(const std::string& Text)
+void Balloon::SetText(const std::string& Words)
 {
-    text = QString::fromStdString(Text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    text = QString::fromStdString(Words).replace(QLatin1String("\r\n"), QLatin1String("\n"));
     Changed();
 }
 

@@ -33,9 +33,9 @@ public:
     Balloon(Form& Parent, const Manner& How);
 
     /// @param Icon  0 none, 1 information, 2 warning, 3 error.
-    void SetHeading(const std::string& Title, int Icon);
+    void SetHeading(const std::string& Words, int Icon);
     /// Lines are parted by CR LF.
-    void SetText(const std::string& Text);
+    void SetText(const std::string& Words);
 
     std::string Title() const { return title.toStdString(); }
     std::string Text() const { return text.toStdString(); }

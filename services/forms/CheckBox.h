@@ -21,7 +21,7 @@ public:
 
     /// 1 ticked, 0 not.
     int Value() const { return isChecked() ? 1 : 0; }
-    void SetValue(int Value) { setChecked(Value == 1); }
+    void SetValue(int Ticked) { setChecked(Ticked == 1); }
 
 protected:
     /// All of the control answers the mouse, not its text alone.

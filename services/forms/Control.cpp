@@ -56,7 +56,7 @@ Key KeyOf(const QKeyEvent& Event)
 
 }
 
-Control::Control(QWidget& Widget) : self(Widget)
+Control::Control(QWidget& Self) : self(Self)
 {
     self.setMouseTracking(true);
 }

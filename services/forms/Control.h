@@ -51,23 +51,20 @@ public:
     virtual ~Control() = default;
 
     bool Enabled() const { return self.isEnabled(); }
-    void SetEnabled(bool Enabled) { self.setEnabled(Enabled); }
+    void SetEnabled(bool On) { self.setEnabled(On); }
     /// What the control itself was told, also while its container is hidden.
     bool Visible() const { return !self.isHidden(); }
-    void SetVisible(bool Visible) { self.setVisible(Visible); }
+    void SetVisible(bool On) { self.setVisible(On); }
 
     int Left() const { return self.x(); }
     int Top() const { return self.y(); }
     int Width() const { return self.width(); }
     int Height() const { return self.height(); }
-    void SetLeft(int Left) { self.move(Left, self.y()); }
-    void SetTop(int Top) { self.move(self.x(), Top); }
-    void SetWidth(int Width) { self.resize(Width, self.height()); }
-    void SetHeight(int Height) { self.resize(self.width(), Height); }
-    void Move(int Left, int Top, int Width, int Height)
-    {
-        self.setGeometry(Left, Top, Width, Height);
-    }
+    void SetLeft(int X) { self.move(X, self.y()); }
+    void SetTop(int Y) { self.move(self.x(), Y); }
+    void SetWidth(int Pixels) { self.resize(Pixels, self.height()); }
+    void SetHeight(int Pixels) { self.resize(self.width(), Pixels); }
+    void Move(int X, int Y, int Wide, int High) { self.setGeometry(X, Y, Wide, High); }
     /// Moves the control, place and all, into another container.
     void SetContainer(Control& Container) { self.setParent(&Container.self); }
 
@@ -102,7 +99,7 @@ public:
     QWidget& Widget() const { return self; }
 
 protected:
-    explicit Control(QWidget& Widget);
+    explicit Control(QWidget& Self);
 
     /// What became of a key on its way through the KeyPress of the form and of the control.
     enum class KeyFate { Unchanged, Replaced, Swallowed };

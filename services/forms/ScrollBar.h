@@ -19,7 +19,7 @@ public:
     explicit ScrollBar(QWidget* Parent = nullptr);
 
     int Value() const { return value(); }
-    void SetValue(int Value) { setValue(Value); }
+    void SetValue(int To) { setValue(To); }
 
     bool eventFilter(QObject* Container, QEvent* Event) override;
 

@@ -41,9 +41,9 @@ Strip::Area Strip::PartArea(int Part) const
     return {Part == 0 ? 0 : RightEdge(Part - 1), 0, RightEdge(Part), height()};
 }
 
-void Strip::SetText(int Part, const std::string& Text)
+void Strip::SetText(int Part, const std::string& Words)
 {
-    parts.at(static_cast<std::size_t>(Part)).Text = QString::fromStdString(Text);
+    parts.at(static_cast<std::size_t>(Part)).Text = QString::fromStdString(Words);
     update();
 }
 

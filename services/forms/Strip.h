@@ -34,7 +34,7 @@ public:
     Area PartArea(int Part) const;
     /// The text of a part that is there.
     std::string Text(int Part) const { return At(Part).Text.toStdString(); }
-    void SetText(int Part, const std::string& Text);
+    void SetText(int Part, const std::string& Words);
 
     /// Hands all controls that lie on the strip back to the form, hidden.
     void GiveBack();

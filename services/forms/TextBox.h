@@ -22,11 +22,11 @@ public:
 
     std::string Text() const { return text().toStdString(); }
     /// A text longer than MaxLength is cut to it.
-    void SetText(const std::string& Text) { setText(QString::fromStdString(Text)); }
+    void SetText(const std::string& Words) { setText(QString::fromStdString(Words)); }
     int MaxLength() const { return maxLength(); }
     void SetMaxLength(int Characters) { setMaxLength(Characters); }
     int SelLength() const { return selectionLength(); }
-    void Select(int SelStart, int SelLength) { setSelection(SelStart, SelLength); }
+    void Select(int From, int Length) { setSelection(From, Length); }
 
 protected:
     void keyPressEvent(QKeyEvent* Event) override;
