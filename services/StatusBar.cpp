@@ -6,7 +6,7 @@ namespace {
 
 constexpr int PartMask = 0xFF;
 constexpr int MaxParts = 255;
-/// A strip that has been laid out again is one row lower than a new one.
+/// Pixels: one less than a new strip has.
 constexpr int ResizedThickness = 22;
 
 /// What of a part stays in view around the control that it holds: left, top, and in all.

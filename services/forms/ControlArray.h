@@ -46,7 +46,7 @@ public:
     Iterator begin() const { return Iterator(elements.begin()); }
     Iterator end() const { return Iterator(elements.end()); }
 
-    /// Sets one property of the elements From to To, those that exist.
+    /// Enables or disables the elements From to To, those that exist.
     void SetEnabled(int From, int To, bool Enabled) const
     {
         for (const auto& [index, control] : elements)
