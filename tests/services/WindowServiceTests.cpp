@@ -14,9 +14,8 @@ constexpr LayoutRow Controls[] = {
     {"Label4", "Programma freeware di libero utilizzo e distribuzione"},
     {"Label3", "© 2026 gli autori di Vellarno"},
     {"lblWarning",
-     "Disclaimer: questo programma viene fornito \"as is\" (così com'è) senza nessuna "
-     "garanzia "
-     "di funzionamento.\nL 'autore, in ogni caso, non potrà essere ritenuto responsabile per "
+     "Disclaimer: questo programma viene fornito \"as is\" (così com'è) senza nessuna garanzia di "
+     "funzionamento.\nL 'autore, in ogni caso, non potrà essere ritenuto responsabile per "
      "eventuali danni derivati dall'utilizzo di questo programma."},
     {"Label7", "Per aggiornamenti visita il sito:"},
     {"imgsito", ":/pictures/banner.png", endpoints::WebSite},
