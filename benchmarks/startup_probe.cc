@@ -1,7 +1,7 @@
 // Starts one program and tells what an onlooker sees of its start.
 //   startup_probe PROGRAM [ARGUMENT …]
 // Prints: milliseconds to the mapped window, milliseconds to the painted window, proportional and
-// resident memory in KiB once it has settled, width and height of the window.
+// resident memory in KiB once it has settled.
 //
 // Every drawing into the window is reported by the server; each time the window's pixels are taken
 // together with the time. The window is painted from the first picture on that differs from the
@@ -115,9 +115,6 @@ public:
         return pictures.back().Time;
     }
 
-    int Width() const { return width; }
-    int Height() const { return height; }
-
 private:
     bool Settled() const { return mapped && Clock::now() - lastChange > Settling; }
 
@@ -191,8 +188,6 @@ private:
         const auto count =
             static_cast<std::size_t>(xcb_get_image_data_length(image.get())) / sizeof *bytes;
         Picture picture{Clock::now(), {bytes, bytes + count}};
-        width = size->width;
-        height = size->height;
         if (!pictures.empty() && Alike(picture, pictures.back())) return;
         lastChange = picture.Time;
         pictures.push_back(std::move(picture));
@@ -205,8 +200,6 @@ private:
     std::optional<Clock::time_point> mapped;
     Clock::time_point lastChange;
     std::vector<Picture> pictures; ///< each unlike the one before it
-    int width = 0;
-    int height = 0;
 };
 
 /// A started program; it ends with this object.
@@ -256,9 +249,9 @@ int main(int argc, char** argv)
         const auto start = Clock::now();
         const Child child(argv + 1);
         onlooker.Watch();
-        std::printf("%.2f %.2f %ld %ld %d %d\n", Milliseconds(onlooker.Mapped() - start).count(),
+        std::printf("%.2f %.2f %ld %ld\n", Milliseconds(onlooker.Mapped() - start).count(),
                     Milliseconds(onlooker.Painted() - start).count(), child.Memory("Pss"),
-                    child.Memory("Rss"), onlooker.Width(), onlooker.Height());
+                    child.Memory("Rss"));
         return 0;
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s: %s\n", argv[1], failure.what());

@@ -23,43 +23,43 @@ const DayNumber LastDay = DateSerial(LastYear, 12, 31);
 /// One step for each day, Easter once for each year.
 PeriodFigures WalkPeriod(DayNumber FromDay, DayNumber ToDay, bool SaturdayIsHoliday)
 {
-    PeriodFigures Figures{};
-    Figures.DayCount = ToDay - FromDay;
-    int CurrentYear = Year(FromDay);
-    DayNumber MondayNumber = EasterDate(CurrentYear) + 1;
+    PeriodFigures figures{};
+    figures.DayCount = ToDay - FromDay;
+    int year = Year(FromDay);
+    DayNumber monday = EasterDate(year) + 1;
     for (DayNumber i = FromDay; i < ToDay; ++i) {
-        if (Year(i) != CurrentYear) {
-            CurrentYear = Year(i);
-            MondayNumber = EasterDate(CurrentYear) + 1;
+        if (Year(i) != year) {
+            year = Year(i);
+            monday = EasterDate(year) + 1;
         }
-        const int Number = Weekday(i, Sunday);
-        if (Number == Sunday) {
-            ++Figures.Sundays;
+        const int weekday = Weekday(i, Sunday);
+        if (weekday == Sunday) {
+            ++figures.Sundays;
             continue;
         }
-        if (Number == Saturday) {
-            ++Figures.Saturdays;
+        if (weekday == Saturday) {
+            ++figures.Saturdays;
             if (SaturdayIsHoliday) continue;
         }
-        if (IsHoliday(i, MondayNumber)) ++Figures.Holidays;
+        if (IsHoliday(i, monday)) ++figures.Holidays;
     }
-    Figures.WorkingDays = Figures.DayCount - Figures.Sundays - Figures.Holidays -
-                          (SaturdayIsHoliday ? Figures.Saturdays : 0);
-    return Figures;
+    figures.WorkingDays = figures.DayCount - figures.Sundays - figures.Holidays -
+                          (SaturdayIsHoliday ? figures.Saturdays : 0);
+    return figures;
 }
 
 template <auto Count>
 void LongestPeriod(benchmark::State& State)
 {
-    const bool SaturdayIsHoliday = State.range(0) != 0;
-    if (Count(FirstDay, LastDay, SaturdayIsHoliday).Holidays !=
-        WalkPeriod(FirstDay, LastDay, SaturdayIsHoliday).Holidays)
+    const bool saturdaysOff = State.range(0) != 0;
+    if (Count(FirstDay, LastDay, saturdaysOff).Holidays !=
+        WalkPeriod(FirstDay, LastDay, saturdaysOff).Holidays)
         State.SkipWithError("the counts differ");
 
-    DayNumber To = LastDay;
+    DayNumber to = LastDay;
     for (auto _ : State) {
-        benchmark::DoNotOptimize(To);
-        benchmark::DoNotOptimize(Count(FirstDay, To, SaturdayIsHoliday));
+        benchmark::DoNotOptimize(to);
+        benchmark::DoNotOptimize(Count(FirstDay, to, saturdaysOff));
     }
 }
 BENCHMARK(LongestPeriod<WalkPeriod>)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
@@ -68,12 +68,12 @@ BENCHMARK(LongestPeriod<CountPeriod>)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosec
 class KeptLabels final : public ResultLabels
 {
 public:
-    void SetDati(Elapsed, const std::string& Caption) override { Length += Caption.size(); }
-    void SetTotali(Total, const std::string& Caption) override { Length += Caption.size(); }
+    void SetDati(Elapsed, const std::string& Caption) override { length += Caption.size(); }
+    void SetTotali(Total, const std::string& Caption) override { length += Caption.size(); }
     void SetHourglass(bool /*Shown*/) override {}
 
 private:
-    std::size_t Length = 0;
+    std::size_t length = 0;
 };
 
 /// Runs Call(i) with a whole number that changes from turn to turn, from 0 to Count - 1.
@@ -90,13 +90,13 @@ void Repeat(benchmark::State& State, int Count, Function Call)
 /// Every figure of one press for two moments 1100 years apart, with the texts.
 void PressWithDatesAndTimes(benchmark::State& State)
 {
-    KeptLabels Labels;
+    KeptLabels labels;
     Repeat(State, 86400, [&](int i) {
-        const MomentPeriod Period =
+        const MomentPeriod period =
             OrderMoments({LastDay, i / 86400.0}, {FirstDay, TimeSerial(0, 0, 0)});
-        CalcTimes(Period.StartDate, Period.EndDate, std::nullopt, Labels);
-        CalcDates(Period.StartDate, Period.CountedEnd, false, Labels);
-        return Labels;
+        CalcTimes(period.StartDate, period.EndDate, std::nullopt, labels);
+        CalcDates(period.StartDate, period.CountedEnd, false, labels);
+        return labels;
     });
 }
 BENCHMARK(PressWithDatesAndTimes);

@@ -28,12 +28,30 @@ public:
     bool BecomeOnlyInstance() override { return true; }
 };
 
-void ShowAndSettle(QWidget& Window)
+void Settle(QWidget& Window)
 {
-    Window.show();
     Window.activateWindow();
     QApplication::processEvents();
 }
+
+/// The main window on screen, in the mode of dates.
+struct Measured
+{
+    const Silence silence;
+    frmMain window;
+
+    Measured()
+    {
+        window.Show();
+        Find<forms::OptionButton>("optDataTime_2").SetValue(true);
+        Settle(window);
+    }
+    template <class ControlClass>
+    ControlClass& Find(const char* Name) const
+    {
+        return *window.findChild<ControlClass*>(QLatin1String(Name));
+    }
+};
 
 /// A digit that replaces the one before, handled and painted.
 void TypeDigit(QLineEdit& Box, int Digit)
@@ -47,12 +65,8 @@ void TypeDigit(QLineEdit& Box, int Digit)
 
 void TypeIntoDateField(benchmark::State& State)
 {
-    const Silence silence;
-    frmMain window;
-    window.Show();
-    ShowAndSettle(window);
-    window.findChild<forms::OptionButton*>("optDataTime_2")->SetValue(true);
-    auto& year = *window.findChild<forms::TextBox*>("txtData_2");
+    const Measured measured;
+    auto& year = measured.Find<forms::TextBox>("txtData_2");
     year.SetFocus();
     int digit = 0;
     for (auto _ : State) TypeDigit(year, digit ^= 1);
@@ -65,7 +79,8 @@ void TypeIntoBareLineEdit(benchmark::State& State)
     window.setFixedSize(480, 312);
     QLineEdit box(&window);
     box.setGeometry(66, 2, 31, 16);
-    ShowAndSettle(window);
+    window.show();
+    Settle(window);
     box.setFocus();
     int digit = 0;
     for (auto _ : State) TypeDigit(box, digit ^= 1);
@@ -74,13 +89,9 @@ BENCHMARK(TypeIntoBareLineEdit)->Unit(benchmark::kMicrosecond);
 
 void CalendarMonthStep(benchmark::State& State)
 {
-    const Silence silence;
-    frmMain window;
-    window.Show();
-    ShowAndSettle(window);
-    window.findChild<forms::OptionButton*>("optDataTime_2")->SetValue(true);
-    window.findChild<forms::CommandButton*>("cmdNowData_0")->click();
-    auto& months = *window.findChild<forms::ScrollBar*>("hscDataScroll");
+    const Measured measured;
+    measured.Find<forms::CommandButton>("cmdNowData_0").click();
+    auto& months = measured.Find<forms::ScrollBar>("hscDataScroll");
     QApplication::processEvents();
     for (auto _ : State) {
         months.SetValue(months.Value() + 1);
@@ -92,15 +103,12 @@ BENCHMARK(CalendarMonthStep)->Unit(benchmark::kMicrosecond);
 /// A tick on an ordinary day, each with another second to print.
 void ClockTick(benchmark::State& State)
 {
-    const Silence silence;
-    frmMain window;
-    window.Show();
-    ShowAndSettle(window);
+    Measured measured;
     int second = 0;
     for (auto _ : State) {
         second = (second + 1) % 60;
         SetClock([=] { return 46348 + TimeSerial(14, 5, second); });
-        window.Timer1_Timer();
+        measured.window.Timer1_Timer();
         QApplication::processEvents();
     }
     SetClock(nullptr);

@@ -15,10 +15,10 @@ struct Calendar : Before<Mode::Dates>
         QCoreApplication::sendEvent(QApplication::focusWidget(), &held);
         ASSERT_TRUE(CalendarIsOpen()) << "and the key that opens it takes no day";
     }
-    void OpenOn(int Month, int Year)
+    void OpenOn(int Mese, int Anno)
     {
-        txtData[1].SetText(std::to_string(Month));
-        txtData[2].SetText(std::to_string(Year));
+        txtData[1].SetText(std::to_string(Mese));
+        txtData[2].SetText(std::to_string(Anno));
         OpenFor(0);
     }
     std::string After(Qt::Key Arrow)
