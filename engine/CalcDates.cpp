@@ -4,7 +4,6 @@
 #include "engine/Text.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace vellarno {
 
@@ -33,8 +32,8 @@ DateFigures DateDifference(DateValue StartDate, DateValue EndDate)
     return {.Years = y2 - y1 - (yearIncomplete ? 1 : 0),
             .Months = (m2 - m1 - (borrows ? 1 : 0) + 12) % 12,
             .Days = std::max(lent - d1 + d2, 0),
-            .TotalDays = static_cast<int>(std::abs(DateDiff("y", EndDate, StartDate))),
-            .TotalWeeks = static_cast<int>(std::abs(DateDiff("ww", EndDate, StartDate, Monday)))};
+            .TotalDays = static_cast<int>(DateDiff("y", StartDate, EndDate)),
+            .TotalWeeks = static_cast<int>(DateDiff("ww", StartDate, EndDate, Monday))};
 }
 
 void CalcDates(DateValue StartDate, DateValue EndDate, bool SaturdayIsHoliday, ResultLabels& Labels)

@@ -13,15 +13,13 @@ struct DateFigures
     int Days;       ///< 0 to 30
     int TotalDays;  ///< calendar days
     int TotalWeeks; ///< Mondays after the start up to and including the end
-
-    bool operator==(const DateFigures&) const = default;
 };
 
 /// @param EndDate  not on a day before that of StartDate. Times of day count in nothing.
 DateFigures DateDifference(DateValue StartDate, DateValue EndDate);
 
 /// Writes the figures of the distance and of CountPeriod, for which both ends are rounded to day
-/// numbers. A long period shows the hourglass meanwhile.
+/// numbers, and throws as that does. A long period shows the hourglass meanwhile.
 /// @param SaturdayIsHoliday  Saturdays are no working days.
 void CalcDates(DateValue StartDate, DateValue EndDate, bool SaturdayIsHoliday,
                ResultLabels& Labels);

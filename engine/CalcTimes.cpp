@@ -2,14 +2,12 @@
 
 #include "engine/Text.h"
 
-#include <cstdlib>
-
 namespace vellarno {
 
 TimeFigures TimeDifference(DateValue StartDate, DateValue EndDate)
 {
     const DateValue elapsed = EndDate - StartDate;
-    const std::int64_t seconds = std::abs(DateDiff("s", EndDate, StartDate));
+    const std::int64_t seconds = DateDiff("s", StartDate, EndDate);
     return {.Hours = Hour(elapsed),
             .Minutes = Minute(elapsed),
             .Seconds = Second(elapsed),
@@ -18,10 +16,9 @@ TimeFigures TimeDifference(DateValue StartDate, DateValue EndDate)
             .TotalSeconds = seconds};
 }
 
-void CalcTimes(DateValue StartDate, DateValue EndDate, std::optional<DateValue> EndTimeOfDay,
-               ResultLabels& Labels)
+void CalcTimes(DateValue StartDate, DateValue EndDate, ResultLabels& Labels)
 {
-    if (EndTimeOfDay && EndDate < StartDate) EndDate = Int(StartDate) + 1 + *EndTimeOfDay;
+    if (EndDate < StartDate) EndDate += 1;
     const TimeFigures figures = TimeDifference(StartDate, EndDate);
 
     Labels.SetDati(ResultLabels::Hours, Format(figures.Hours, "0,0"));

@@ -4,7 +4,6 @@
 #include "engine/ResultLabels.h"
 
 #include <cstdint>
-#include <optional>
 
 namespace vellarno {
 
@@ -23,10 +22,8 @@ struct TimeFigures
 /// @param EndDate  not before StartDate.
 TimeFigures TimeDifference(DateValue StartDate, DateValue EndDate);
 
-/// Writes the figures of the distance from StartDate to EndDate.
-/// @param EndTimeOfDay  given where two times of one day are compared: an end before the start then
-///                      lies at this time of the day after the start.
-void CalcTimes(DateValue StartDate, DateValue EndDate, std::optional<DateValue> EndTimeOfDay,
-               ResultLabels& Labels);
+/// Writes the figures of the distance from StartDate to EndDate. Where two times of day are
+/// compared an end before the start lies on the next day.
+void CalcTimes(DateValue StartDate, DateValue EndDate, ResultLabels& Labels);
 
 }

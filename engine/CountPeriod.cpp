@@ -64,7 +64,6 @@ PeriodFigures CountPeriod(DayNumber FromDay, DayNumber ToDay, bool SaturdayIsHol
     };
 
     PeriodFigures figures{};
-    figures.DayCount = dayCount;
     figures.Sundays = countWeekdays(Sunday);
     figures.Saturdays = countWeekdays(Saturday);
     figures.Holidays =

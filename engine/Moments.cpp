@@ -7,13 +7,11 @@ namespace vellarno {
 MomentPeriod OrderMoments(Moment One, Moment Other)
 {
     if (One.Value() > Other.Value()) std::swap(One, Other);
-    const auto startTime = static_cast<float>(One.TimeOfDay);
-    const auto endTime = static_cast<float>(Other.TimeOfDay);
-    constexpr float Noon = 0.5F;
+    constexpr DateValue Noon = 0.5;
 
     DateValue countedEnd = Other.Value();
-    if (startTime > endTime) countedEnd -= 1;
-    if (startTime < Noon && endTime > Noon) countedEnd -= 0.5;
+    if (One.TimeOfDay > Other.TimeOfDay) countedEnd -= 1;
+    if (One.TimeOfDay < Noon && Other.TimeOfDay > Noon) countedEnd -= Noon;
     return {One.Value(), Other.Value(), countedEnd};
 }
 

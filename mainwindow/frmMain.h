@@ -81,7 +81,6 @@ private:
     forms::Timer Timer1;
 
     // What the window remembers beyond its controls
-    bool SaturdayIsHoliday = false;
     int CalMese = 0;      ///< month on show in the calendar, 1 to 12
     int CalAnno = 0;      ///< year on show in the calendar
     int CalCampo = 0;     ///< the entry that the calendar serves: 0 the start, 1 the end

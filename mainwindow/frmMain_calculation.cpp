@@ -2,7 +2,6 @@
 
 #include "engine/CalcDates.h"
 #include "engine/CalcTimes.h"
-#include "engine/Clock.h"
 #include "engine/Moments.h"
 #include "engine/Text.h"
 
@@ -32,8 +31,7 @@ void frmMain::cmdCalcola_Click()
 
 void frmMain::CompareTimes()
 {
-    const DayNumber today = Date(); // one reading for both: midnight can't come between them
-    CalcTimes(today + TypedTime(0), today + TypedTime(3), TypedTime(3), *this);
+    CalcTimes(TypedTime(0), TypedTime(3), *this);
 }
 
 void frmMain::CompareMoments()
@@ -42,8 +40,8 @@ void frmMain::CompareMoments()
     const Moment end{TypedDate(3), TypedTime(3)};
     ShowWeekdays(start.Value(), end.Value());
     const MomentPeriod period = OrderMoments(start, end);
-    CalcTimes(period.StartDate, period.EndDate, {}, *this);
-    CalcDates(period.StartDate, period.CountedEnd, SaturdayIsHoliday, *this);
+    CalcTimes(period.StartDate, period.EndDate, *this);
+    CalcDates(period.StartDate, period.CountedEnd, chkWorkSat.Value() == 1, *this);
 }
 
 void frmMain::CompareDates()
@@ -53,7 +51,7 @@ void frmMain::CompareDates()
     ShowWeekdays(start, end);
     if (start > end) std::swap(start, end);
     if (chkDayInt.Value() == 1) end += 1;
-    CalcDates(start, end, SaturdayIsHoliday, *this);
+    CalcDates(start, end, chkWorkSat.Value() == 1, *this);
 }
 
 DayNumber frmMain::TypedDate(int First) const

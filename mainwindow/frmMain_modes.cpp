@@ -112,8 +112,7 @@ void frmMain::chkWorkSat_Click()
 {
     DescribeTotals();
     PlayResSound(resources::Sound::Click);
-    SaturdayIsHoliday = chkWorkSat.Value() == 1;
-    const unsigned int color = SaturdayIsHoliday ? forms::PureRed : forms::Black;
+    const unsigned int color = chkWorkSat.Value() == 1 ? forms::PureRed : forms::Black;
     lblTotali[Saturdays].SetForeColor(color);
     CaptionOf(Saturdays).SetForeColor(color);
     if (HasAllFields(Moments))

@@ -4,21 +4,13 @@
 
 namespace vellarno {
 
-namespace {
-
-DateValue Move(DateValue Moment, ClockTime Step)
-{
-    Moment = DateAdd("h", Step.Hours, Moment).value();
-    Moment = DateAdd("n", Step.Minutes, Moment).value();
-    return DateAdd("s", Step.Seconds, Moment).value();
-}
-
-}
-
 ClockTime AddOnClock(ClockTime Total, ClockTime Step)
 {
-    const DateValue moment = Move(Move(0, Total), Step);
-    return {Hour(moment), Minute(moment), Second(moment)};
+    constexpr int DaySeconds = 24 * 3600;
+    const int seconds = (Total.Hours + Step.Hours) * 3600 + (Total.Minutes + Step.Minutes) * 60 +
+                        Total.Seconds + Step.Seconds;
+    const int ofDay = (seconds % DaySeconds + DaySeconds) % DaySeconds;
+    return {ofDay / 3600, ofDay / 60 % 60, ofDay % 60};
 }
 
 std::optional<DateValue> StepDate(std::string_view From, const DateUnit& Unit,

@@ -7,7 +7,8 @@
 
 namespace vellarno {
 
-/// Figures of a clock time, or of a step on the clock, where each may be negative or exceed 59.
+/// Figures of a clock time, or of a step on the clock, where each may be negative or exceed 59, up
+/// to some thousands.
 struct ClockTime
 {
     int Hours;
