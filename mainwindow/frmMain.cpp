@@ -3,15 +3,14 @@
 #include "engine/Text.h"
 #include "services/App.h"
 #include "services/GenericBas.h"
-#include "services/Platform.h"
 #include "services/forms/Application.h"
+#include "services/forms/Globals.h"
 #include "services/platform/PrivateFile.h"
 
 namespace vellarno {
 
 namespace {
 
-constexpr int WindowHeight = 5085; // twips, with the frame
 constexpr int ClockInterval = 400; // milliseconds
 
 }
@@ -65,7 +64,6 @@ void frmMain::Connect()
 
 void frmMain::Form_Load()
 {
-    SetHeight(WindowHeight);
     InitStatusStrip();
     SetHandCursor(*this);
     for (auto& caption : lblChekBox) caption.FitWidth();
@@ -75,10 +73,6 @@ void frmMain::Form_Load()
     InitBalloons();
     PrepareResults();
     ShowCalendar(-1);
-    imgGradiente.Move(0, -1, picOption.Width() - 1, picOption.Height() - 1);
-    optDataTime[Times].SetValue(true);
-    imgBorder.SetHeight(107);
-    imgBorder.SetTop(115);
     SetCaption(std::string(App::Title) + ' ' + CStr(App::Major) + '.' + CStr(App::Minor));
     Timer1.Start(ClockInterval);
 }
@@ -86,8 +80,7 @@ void frmMain::Form_Load()
 void frmMain::Form_Unload()
 {
     DeletePrivateFile(HelpFilePath());
-    StatusStrip.reset();
-    BalloonTip.reset();
+    BalloonTip.Destroy();
     UnloadAll();
     forms::Application::Quit();
 }

@@ -20,7 +20,6 @@
 #include "ui_frmMain.h"
 
 #include <array>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,7 +32,8 @@ class frmMain : public forms::Designed<Ui::frmMain>, private ResultLabels
 public:
     frmMain();
 
-    /// Shows the time, and on a new day of the month everything else in the strip.
+    /// Shows the time, and on a new day of the month everything else in the strip
+    /// (frmMain_strip.cpp). Public for those that don't wait for a tick.
     void Timer1_Timer();
 
 private:
@@ -60,7 +60,6 @@ private:
     forms::CheckBox& chkWorkSat = *ui.chkWorkSat;
     forms::ControlArray<forms::Label> lblChekBox{*this, "lblChekBox"};
     forms::PictureBox& picOption = *ui.picOption;
-    forms::Image& imgGradiente = *ui.imgGradiente;
     forms::ControlArray<forms::Image> imgTipoCalcolo{*this, "imgTipoCalcolo"};
     forms::ControlArray<forms::OptionButton> optDataTime{*this, "optDataTime"};
     forms::CommandButton& cmdCalcola = *ui.cmdCalcola;
@@ -87,8 +86,8 @@ private:
     int CalGiorno = 0;    ///< day of the month on show that the keyboard acts on
     int UltimoGiorno = 0; ///< day of the month of the strip's last full update
     std::array<bool, TotalCount> BalloonShown{};
-    std::optional<StatusBar> StatusStrip;
-    std::optional<CTooltip> BalloonTip;
+    StatusBar StatusStrip;
+    CTooltip BalloonTip;
     forms::FormPointer<frmMiniCalc> Sums;
     static const std::array<Segment, 6> DateRules;
     static const std::array<Segment, 6> TimeRules;
@@ -107,8 +106,8 @@ private:
     void CompareTimes();
     void CompareMoments();
     void CompareDates();
-    DayNumber TypedDate(int First) const;
-    DateValue TypedTime(int First) const;
+    DayNumber TypedDate(int End) const;
+    DateValue TypedTime(int End) const;
     void ShowWeekdays(DateValue StartDate, DateValue EndDate);
 
     // Refusals of what was entered: frmMain_validation.cpp
@@ -191,5 +190,11 @@ private:
 
 /// The two entries, as they are read aloud.
 inline constexpr const char* EndNames[] = {"Inizio", "Fine"};
+
+/// The first of the three boxes of an entry.
+constexpr int FirstBox(int End)
+{
+    return 3 * End;
+}
 
 }

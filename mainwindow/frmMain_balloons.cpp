@@ -2,6 +2,8 @@
 
 #include "services/GenericBas.h"
 
+#include <utility>
+
 namespace vellarno {
 
 namespace {
@@ -63,10 +65,9 @@ const char* frmMain::MeaningOfTotal(int Index) const
 
 void frmMain::InitBalloons()
 {
-    BalloonTip.emplace();
-    BalloonTip->SetStyle(1);
-    BalloonTip->SetIcon(1);
-    BalloonTip->SetDelayTime(20);
+    BalloonTip.SetStyle(CTooltip::BalloonStyle);
+    BalloonTip.SetIcon(CTooltip::InformationIcon);
+    BalloonTip.SetDelayTime(20);
     DescribeTotals();
 }
 
@@ -82,15 +83,15 @@ void frmMain::lblTotali_MouseMove(int Index)
     const auto at = static_cast<std::size_t>(Index);
     if (BalloonShown[at]) return;
     BalloonShown[at] = true;
-    BalloonTip->SetTitle(Texts[at].Title);
-    BalloonTip->SetTipText(MeaningOfTotal(Index));
-    BalloonTip->Create(*this, OnTopFlag);
+    BalloonTip.SetTitle(Texts[at].Title);
+    BalloonTip.SetTipText(MeaningOfTotal(Index));
+    BalloonTip.Create(*this, OnTopFlag);
 }
 
 void frmMain::CloseBalloons()
 {
     for (bool& shown : BalloonShown)
-        if (std::exchange(shown, false)) BalloonTip->Destroy();
+        if (std::exchange(shown, false)) BalloonTip.Destroy();
 }
 
 }

@@ -5,6 +5,8 @@
 #include "engine/Moments.h"
 #include "engine/Text.h"
 
+#include <utility>
+
 namespace vellarno {
 
 namespace {
@@ -31,13 +33,13 @@ void frmMain::cmdCalcola_Click()
 
 void frmMain::CompareTimes()
 {
-    CalcTimes(TypedTime(0), TypedTime(3), *this);
+    CalcTimes(TypedTime(0), TypedTime(1), *this);
 }
 
 void frmMain::CompareMoments()
 {
     const Moment start{TypedDate(0), TypedTime(0)};
-    const Moment end{TypedDate(3), TypedTime(3)};
+    const Moment end{TypedDate(1), TypedTime(1)};
     ShowWeekdays(start.Value(), end.Value());
     const MomentPeriod period = OrderMoments(start, end);
     CalcTimes(period.StartDate, period.EndDate, *this);
@@ -47,23 +49,25 @@ void frmMain::CompareMoments()
 void frmMain::CompareDates()
 {
     DayNumber start = TypedDate(0);
-    DayNumber end = TypedDate(3);
+    DayNumber end = TypedDate(1);
     ShowWeekdays(start, end);
     if (start > end) std::swap(start, end);
     if (chkDayInt.Value() == 1) end += 1;
     CalcDates(start, end, chkWorkSat.Value() == 1, *this);
 }
 
-DayNumber frmMain::TypedDate(int First) const
+DayNumber frmMain::TypedDate(int End) const
 {
-    return DateSerial(NumberIn(txtData[First + 2]), NumberIn(txtData[First + 1]),
-                      NumberIn(txtData[First]));
+    const int first = FirstBox(End);
+    return DateSerial(NumberIn(txtData[first + 2]), NumberIn(txtData[first + 1]),
+                      NumberIn(txtData[first]));
 }
 
-DateValue frmMain::TypedTime(int First) const
+DateValue frmMain::TypedTime(int End) const
 {
-    return TimeSerial(NumberIn(txtTime[First]), NumberIn(txtTime[First + 1]),
-                      NumberIn(txtTime[First + 2]));
+    const int first = FirstBox(End);
+    return TimeSerial(NumberIn(txtTime[first]), NumberIn(txtTime[first + 1]),
+                      NumberIn(txtTime[first + 2]));
 }
 
 // Before the two are put in order: each weekday stays beside the date that was typed there.

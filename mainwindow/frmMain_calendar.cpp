@@ -27,7 +27,8 @@ std::string SpokenDay(DayNumber Serial, bool Holiday)
 
 std::string InCapitals(std::string Text)
 {
-    std::ranges::transform(Text, Text.begin(), [](unsigned char c) { return std::toupper(c); });
+    std::ranges::transform(Text, Text.begin(),
+                           [](unsigned char Letter) { return std::toupper(Letter); });
     return Text;
 }
 
@@ -65,9 +66,9 @@ void frmMain::ShowCalendar(int Index)
     CalAnno = Year(today);
     CalGiorno = 0;
     if (Index >= 0) {
-        CalGiorno = CInt(txtData[Index * 3].Text()).value_or(0);
-        const auto month = CInt(txtData[Index * 3 + 1].Text());
-        const auto year = CInt(txtData[Index * 3 + 2].Text());
+        CalGiorno = CInt(txtData[FirstBox(Index)].Text()).value_or(0);
+        const auto month = CInt(txtData[FirstBox(Index) + 1].Text());
+        const auto year = CInt(txtData[FirstBox(Index) + 2].Text());
         if (month && year && IsCorrect(*month, *year)) {
             CalMese = *month;
             CalAnno = *year;
@@ -223,7 +224,7 @@ void frmMain::GIORNO_Click(int Index)
     const std::string day = Format(GIORNO[Index].Caption(), "00");
     ClearResults();
     HideCalendar();
-    const int first = CalCampo == 0 ? 0 : 3;
+    const int first = FirstBox(CalCampo);
     txtData[first].SetText(day);
     txtData[first + 1].SetText(Format(CalMese, "00"));
     txtData[first + 2].SetText(Format(CalAnno, "0000"));

@@ -13,12 +13,10 @@ namespace {
 
 constexpr short RightEdges[] = {142, 200, 235, 270, 305, 340, 375, 400, 425, 450, -1};
 
-/// The boxes of the strip's parts from left to right.
-constexpr int Panels[] = {5, 6, 0, 1, 2, 3, 4};
-constexpr int Icons[] = {3, 0, 2, 1};
-
 constexpr int DatePanel = 5;
 constexpr int ClockPanel = 6;
+/// The boxes of the strip's parts from left to right.
+constexpr int Panels[] = {DatePanel, ClockPanel, 0, 1, 2, 3, 4};
 
 struct YearFigure
 {
@@ -50,12 +48,12 @@ void frmMain::InitStatusStrip()
 {
     picBarra[0].SetMousePointer(forms::Pointer::Help);
     for (int index = 1; index <= ClockPanel; ++index) picBarra.Load(index).SetVisible(true);
-    StatusStrip.emplace();
-    StatusStrip->Create(*this);
-    StatusStrip->SetParts(std::size(RightEdges), RightEdges);
+    StatusStrip.Create(*this);
+    StatusStrip.SetParts(std::size(RightEdges), RightEdges);
     short part = 0;
-    for (const int index : Panels) StatusStrip->CopyObj(part++, picBarra[index]);
-    for (const int index : Icons) StatusStrip->CopyObj(part++, picToolBarra[index]);
+    for (const int index : Panels) StatusStrip.CopyObj(part++, picBarra[index]);
+    for (const int index : {SequentialSums, DateSettings, Help, About})
+        StatusStrip.CopyObj(part++, picToolBarra[index]);
 }
 
 void frmMain::Timer1_Timer()
@@ -101,7 +99,7 @@ void frmMain::cmdNowTime_Click(int Index)
     HideCalendar();
     const DateValue now = Now();
     ClearResults();
-    const int first = Index == 1 ? 3 : 0;
+    const int first = FirstBox(Index);
     txtTime[first].SetText(Format(Hour(now), "00"));
     txtTime[first + 1].SetText(Format(Minute(now), "00"));
     txtTime[first + 2].SetText(Format(Second(now), "00"));

@@ -8,13 +8,7 @@ namespace vellarno {
 
 namespace {
 
-struct DateGroup
-{
-    int First; ///< index of the day; month and year follow
-    const char* Name;
-};
-
-constexpr DateGroup Groups[] = {{0, "'Data inizio'"}, {3, "'Data fine'"}};
+constexpr const char* GroupNames[] = {"'Data inizio'", "'Data fine'"};
 
 void Refuse(const char* Name, const std::string& Fault)
 {
@@ -47,14 +41,15 @@ void frmMain::ShowIncompleteData()
 
 bool frmMain::ValidateDates()
 {
-    for (const auto& [first, name] : Groups) {
+    for (const int end : {0, 1}) {
+        const int first = FirstBox(end);
         const std::string year = txtData[first + 2].Text();
         if (!IsDate(txtData[first].Text() + '/' + txtData[first + 1].Text() + '/' + year)) {
-            Refuse(name, " è stata immessa una data non valida!");
+            Refuse(GroupNames[end], " è stata immessa una data non valida!");
             return false;
         }
         if (CInt(year).value_or(0) < FirstYear) {
-            Refuse(name, " è stata immesso un anno non valido!");
+            Refuse(GroupNames[end], " è stata immesso un anno non valido!");
             return false;
         }
     }

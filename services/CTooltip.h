@@ -13,6 +13,7 @@ class CTooltip
 {
 public:
     static constexpr std::int32_t BalloonStyle = 1; ///< any other Style is the plain rectangle
+    static constexpr std::int32_t InformationIcon = 1;
 
     CTooltip() = default;
     ~CTooltip() { Destroy(); }

@@ -13,14 +13,11 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace vellarno::forms {
 
 namespace {
-
-constexpr int TwipsPerPixel = 15;
-/// What a desktop's title bar and edges add to the height of a window of fixed size.
-constexpr int FrameHeight = 27;
 
 Qt::WindowFlags FlagsOf(FormBorder Border)
 {
@@ -97,11 +94,6 @@ void Form::ShowModal()
     modalLoop = nullptr;
 }
 
-void Form::SetHeight(int Twips)
-{
-    setFixedSize(width(), Twips / TwipsPerPixel - FrameHeight);
-}
-
 void Form::SetAlpha(int Alpha)
 {
     setWindowOpacity(Alpha / 255.0);
@@ -162,9 +154,9 @@ void Form::FocusMoved(Control& To, const QFocusEvent& Event)
     auto* previous = dynamic_cast<Control*>(focused.data());
     if (Event.gotFocus()) {
         if (previous == &To) return;
-        focused = &To.self;
+        focused = &To.Widget();
         if (previous && previous->LostFocus) previous->LostFocus();
-        if (focused == &To.self && To.GotFocus) To.GotFocus();
+        if (focused == &To.Widget() && To.GotFocus) To.GotFocus();
     } else if (!elsewhere && previous == &To) {
         focused = nullptr;
         if (To.LostFocus) To.LostFocus();

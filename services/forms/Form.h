@@ -45,10 +45,7 @@ public:
     static void UnloadAll();
     bool Visible() const { return isVisible(); }
 
-    std::string Caption() const { return windowTitle().toStdString(); }
     void SetCaption(const std::string& Text) { setWindowTitle(QString::fromStdString(Text)); }
-    /// Height of the framed window in twips, 15 to the pixel.
-    void SetHeight(int Twips);
     int ScaleWidth() const { return width(); }
     int ScaleHeight() const { return height(); }
     /// Opacity from 0 to 255, where the desktop can show it.
@@ -61,7 +58,7 @@ public:
     /// All controls of the form, in no particular order.
     std::vector<Control*> Controls() const;
 
-    /// A key that acts wherever in this window the focus is, and no character of it.
+    /// A key or combination that types nothing, wherever in this window the focus is.
     /// @param Keys  like "F1" or "Ctrl+Shift+C".
     void OnKey(const char* Keys, std::function<void()> Handler);
     void SetDefaultButton(CommandButton& Button) { defaultButton = &Button; }

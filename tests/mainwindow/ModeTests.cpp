@@ -64,7 +64,7 @@ TEST_F(Modes, TheWindowOpensSilentlyInThatOfTimesButForTheHolidays)
     EXPECT_EQ(Usables(), "000000 111111 00001111 1111111100000000000 000000111 00 11 00 ");
     lblTotali[5].SetEnabled(true);
     ExpectOutcome(Mode::Times);
-    EXPECT_EQ(form.Caption(), "Vellarno 2.0");
+    EXPECT_EQ(form.windowTitle(), "Vellarno 2.0");
     EXPECT_EQ(form.size(), QSize(480, 312));
 }
 

@@ -42,7 +42,7 @@ constexpr LayoutRow Controls[] = {
 
 TEST_F(Shell, EachControlShowsAndTellsItsOwn)
 {
-    EXPECT_EQ(form.Caption(), "Calcoli tra tempo e tra date");
+    EXPECT_EQ(form.windowTitle(), "Calcoli tra tempo e tra date");
     EXPECT_EQ(form.size(), QSize(480, 260));
     ExpectLayout(form, 16, Controls);
 }

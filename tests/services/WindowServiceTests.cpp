@@ -28,7 +28,7 @@ struct About : testing::Test, Stage<frmAbout>
 
 TEST_F(About, TellsWhatTheProgramIsAndTodaysDate)
 {
-    EXPECT_EQ(form.Caption(), "Informazioni");
+    EXPECT_EQ(form.windowTitle(), "Informazioni");
     EXPECT_EQ(TabOrder(*this), "cmdChiudi imgsito lblEmail");
     EXPECT_EQ(form.size(), QSize(433, 317));
     ExpectLayout(form, 3, Controls);
