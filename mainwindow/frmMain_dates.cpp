@@ -13,12 +13,12 @@ bool IsDay(int Index)
 }
 
 // The typing runs from the one date into the other, over a start time between them.
-const std::array<Segment, 6> frmMain::DateRules = {{{31, 2, 1, true},
-                                                    {12, 2, 2, true},
-                                                    {LastYear, 4, 3},
-                                                    {31, 2, 4, true},
-                                                    {12, 2, 5, true},
-                                                    {LastYear, 4, Segment::End}}};
+const std::array<Segment, 6> frmMain::DateRules = {{{31, 1, true},
+                                                    {12, 2, true},
+                                                    {LastYear, 3},
+                                                    {31, 4, true},
+                                                    {12, 5, true},
+                                                    {LastYear, Segment::End}}};
 
 void frmMain::txtData_Change(int Index)
 {

@@ -4,7 +4,7 @@ namespace vellarno {
 
 // Zero is a value like any other.
 const std::array<Segment, 6> frmMain::TimeRules = {
-    {{23, 2, 1}, {59, 2, 2}, {59, 2, 3}, {23, 2, 4}, {59, 2, 5}, {59, 2, Segment::End}}};
+    {{23, 1}, {59, 2}, {59, 3, false, 2}, {23, 4}, {59, 5}, {59, Segment::End, false, 2}}};
 
 void frmMain::txtTime_Change(int Index)
 {

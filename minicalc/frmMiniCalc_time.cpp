@@ -16,13 +16,12 @@ constexpr const char* Zero = "000";
 }
 
 // The value's minutes and seconds have no limit but their digits.
-const std::array<Segment, 6> frmMiniCalc::TimeRules = {
-    {{23, 2, 1},
-     {59, Segment::ByMaxLength, 2},
-     {59, Segment::ByMaxLength, Segment::End},
-     {23, 2, 4},
-     {Segment::NoLimit, Segment::ByMaxLength, 5},
-     {Segment::NoLimit, Segment::ByMaxLength, Segment::End}}};
+const std::array<Segment, 6> frmMiniCalc::TimeRules = {{{23, 1},
+                                                        {59, 2},
+                                                        {59, Segment::End},
+                                                        {23, 4},
+                                                        {Segment::NoLimit, 5},
+                                                        {Segment::NoLimit, Segment::End}}};
 
 void frmMiniCalc::cmdSommaOre_Click()
 {

@@ -15,10 +15,10 @@ struct Segment
     static constexpr int ByMaxLength = 0;
     static constexpr int End = -1;
 
-    int Limit;                 ///< highest value
-    int FullLength;            ///< characters at which the focus moves on
-    int Next;                  ///< index of the next segment, or End
-    bool RefusesZeros = false; ///< "00" is no value here
+    int Limit;                    ///< highest value, or NoLimit
+    int Next;                     ///< index of the next segment, or End
+    bool RefusesZeros = false;    ///< "00" is no value here
+    int FullLength = ByMaxLength; ///< characters at which the focus moves on, or ByMaxLength
 };
 
 /// Lets digits and backspace through; any other key has no effect.
