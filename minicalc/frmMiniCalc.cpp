@@ -103,8 +103,6 @@ void frmMiniCalc::Form_Load()
 {
     SetHandCursor(*this);
     if (OnTopFlag) SetAlwaysOnTop(*this, true);
-    HelpIndexDate = FirstHelpOfUnits;
-    HelpIndexTime = 0;
     ShowHelp();
     OfferCopies();
     FadeInForm(*this); // last: the window can be used, and closed, while it fades in
@@ -154,7 +152,6 @@ void frmMiniCalc::optFormat_Click(int Index)
     txtCalc[4].SetMaxLength(format.Digits);
     txtCalc[5].SetMaxLength(format.Digits);
     lblTime[1].SetCaption(format.Legend);
-    HelpIndexTime = Index;
     ShowHelp();
     Clear();
     forms::Announce(*this, format.Spoken);
@@ -164,7 +161,6 @@ void frmMiniCalc::optTipoDati_Click(int Index)
 {
     if (!PlayClickOf(optTipoDati[Index])) return;
     lblTime[5].SetCaption(std::string(DateUnits[Index].Name));
-    HelpIndexDate = FirstHelpOfUnits + Index;
     ShowHelp();
     Clear();
     forms::Announce(*this, lblTime[5].Caption());
@@ -222,12 +218,20 @@ void frmMiniCalc::CopyTotal(bool WithCaption)
     forms::Announce(*this, "Risultati copiati");
 }
 
+/// The index of the selected option.
+int frmMiniCalc::Chosen(const forms::ControlArray<forms::OptionButton>& Of)
+{
+    int chosen = 0;
+    while (!Of[chosen].Value()) ++chosen;
+    return chosen;
+}
+
 /// Title and text belong to the side on screen, also where it was left while an option sounded.
 void frmMiniCalc::ShowHelp()
 {
     const int side = optBase[DateSide].Value() ? DateSide : TimeSide;
     SetHelpTitle(side);
-    SetHelpText(side == DateSide ? HelpIndexDate : HelpIndexTime);
+    SetHelpText(side == DateSide ? FirstHelpOfUnits + Chosen(optTipoDati) : Chosen(optFormat));
 }
 
 void frmMiniCalc::SetHelpTitle(int Index)

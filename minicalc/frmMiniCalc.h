@@ -48,6 +48,7 @@ private:
     void OfferCopies();
     void CopyTotal(bool WithCaption);
 
+    static int Chosen(const forms::ControlArray<forms::OptionButton>& Of);
     void ShowHelp();
     void SetHelpTitle(int Index);
     void SetHelpText(int HelpIndex);
@@ -65,12 +66,9 @@ private:
     void txtData_LostFocus(int Index);
     void txtSommaDati_GotFocus();
     void RefuseYear();
-    std::string TypedDate() const;
+    std::string DateText() const;
     void ShowDate(DateValue Value);
     const DateUnit& Unit() const;
-
-    int HelpIndexTime = 0; ///< help text of the chosen format
-    int HelpIndexDate = 0; ///< help text of the chosen unit
 
     // Switches
     forms::ControlArray<forms::OptionButton> optBase{*this, "optBase"};

@@ -13,26 +13,25 @@ constexpr int DayField = 0;
 constexpr int MonthField = 1;
 constexpr int YearField = 2;
 
+constexpr int LastYearOfSums = 2300;
 constexpr const char* YearLimitText =
-    "Massimo valore consentito per il calcolo con le date è l'anno 2300";
+    "Massimo valore consentito per il calcolo con le date è l'anno ";
 constexpr const char* NoDateText =
     "La data immessa non è valida, il calcolo non può essere eseguito.";
 
 }
 
 const std::array<Segment, 3> frmMiniCalc::DateRules = {
-    {{31, 2, MonthField}, {12, 2, YearField}, {2300, 4, Segment::End}}};
+    {{31, MonthField}, {12, YearField}, {LastYearOfSums, Segment::End}}};
 
 const DateUnit& frmMiniCalc::Unit() const
 {
-    int chosen = 0;
-    while (!optTipoDati[chosen].Value()) ++chosen;
-    return DateUnits[chosen];
+    return DateUnits[Chosen(optTipoDati)];
 }
 
 void frmMiniCalc::cmdSommaData_Click()
 {
-    const auto result = StepDate(TypedDate(), Unit(), txtSommaDati.Text(), optSommaData[1].Value());
+    const auto result = StepDate(DateText(), Unit(), txtSommaDati.Text(), optSommaData[1].Value());
     if (result) {
         ShowDate(*result);
         txtSommaDati.SetFocus();
@@ -43,7 +42,7 @@ void frmMiniCalc::cmdSommaData_Click()
     }
 }
 
-std::string frmMiniCalc::TypedDate() const
+std::string frmMiniCalc::DateText() const
 {
     return txtData[DayField].Text() + '/' + txtData[MonthField].Text() + '/' +
            txtData[YearField].Text();
@@ -77,9 +76,9 @@ void frmMiniCalc::txtData_Change(int Index)
 
 void frmMiniCalc::RefuseYear()
 {
-    System().MsgBox(YearLimitText, forms::Information, App::Title);
+    System().MsgBox(YearLimitText + CStr(LastYearOfSums), forms::Information, App::Title);
     // A clock beyond the limit would bring a day that is refused in its turn, without end.
-    if (Year(Date()) <= DateRules[YearField].Limit) cmdClear_Click();
+    if (Year(Date()) <= LastYearOfSums) cmdClear_Click();
 }
 
 void frmMiniCalc::txtData_GotFocus(int Index)
