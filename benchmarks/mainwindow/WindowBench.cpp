@@ -21,7 +21,7 @@ public:
     void Beep() override {}
     void MsgBox(const std::string&, forms::MessageStyle, const std::string&) override {}
     void PlaySound(const std::string&) override {}
-    bool OpenAddress(const std::string&) override { return true; }
+    void OpenAddress(const std::string&) override {}
     bool StartEntry(const std::string&) override { return true; }
     std::string PrivateFolder() override { return {}; }
     bool Compositing() override { return false; }
@@ -69,7 +69,7 @@ void TypeIntoDateField(benchmark::State& State)
     auto& year = measured.Find<forms::TextBox>("txtData_2");
     year.SetFocus();
     int digit = 0;
-    for (auto _ : State) TypeDigit(year, digit ^= 1);
+    for ([[maybe_unused]] auto _ : State) TypeDigit(year, digit ^= 1);
 }
 BENCHMARK(TypeIntoDateField)->Unit(benchmark::kMicrosecond);
 
@@ -83,7 +83,7 @@ void TypeIntoBareLineEdit(benchmark::State& State)
     Settle(window);
     box.setFocus();
     int digit = 0;
-    for (auto _ : State) TypeDigit(box, digit ^= 1);
+    for ([[maybe_unused]] auto _ : State) TypeDigit(box, digit ^= 1);
 }
 BENCHMARK(TypeIntoBareLineEdit)->Unit(benchmark::kMicrosecond);
 
@@ -93,7 +93,7 @@ void CalendarMonthStep(benchmark::State& State)
     measured.Find<forms::CommandButton>("cmdNowData_0").click();
     auto& months = measured.Find<forms::ScrollBar>("hscDataScroll");
     QApplication::processEvents();
-    for (auto _ : State) {
+    for ([[maybe_unused]] auto _ : State) {
         months.SetValue(months.Value() + 1);
         QApplication::processEvents();
     }
@@ -105,7 +105,7 @@ void ClockTick(benchmark::State& State)
 {
     Measured measured;
     int second = 0;
-    for (auto _ : State) {
+    for ([[maybe_unused]] auto _ : State) {
         second = (second + 1) % 60;
         SetClock([=] { return 46348 + TimeSerial(14, 5, second); });
         measured.window.Timer1_Timer();
