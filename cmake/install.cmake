@@ -5,18 +5,20 @@ set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 set(packaged ${PROJECT_BINARY_DIR}/packaging)
 set(documents ${CMAKE_INSTALL_DATADIR}/doc/vellarno)
 
-# A release is told in three places that people write by hand.
-function(require_current_version File Pattern)
+# A release is told in places that people write by hand.
+function(require_version Version File Pattern)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${File})
   file(STRINGS ${File} lines REGEX "${Pattern}")
   list(GET lines 0 newest)
-  string(FIND "${newest}" "${PROJECT_VERSION}" found)
+  string(FIND "${newest}" "${Version}" found)
   if(found EQUAL -1)
-    message(FATAL_ERROR "${File} does not tell of version ${PROJECT_VERSION}")
+    message(FATAL_ERROR "${File} does not tell of version ${Version}")
   endif()
 endfunction()
-require_current_version(${packaging}/debian/changelog "^vellarno \\(")
-require_current_version(${packaging}/org.example.vellarno.metainfo.xml "<release version=")
+require_version(${PROJECT_VERSION} ${packaging}/debian/changelog "^vellarno \\(")
+require_version(${PROJECT_VERSION} ${packaging}/org.example.vellarno.metainfo.xml "<release version=")
+require_version(${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
+                ${PROJECT_SOURCE_DIR}/resources/HelpVellarno.htm "<h1>")
 
 # Debian keeps documents compressed, and without a time in them the package is the same every time.
 function(install_compressed File Name Destination)
