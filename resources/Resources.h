@@ -19,7 +19,7 @@ inline std::string Path(Sound Id)
     throw std::logic_error("no such sound");
 }
 
-enum class Pin { Off = 201, On = 202 };
+enum class Pin { Off, On };
 
 inline std::string Path(Pin Id)
 {

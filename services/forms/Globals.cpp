@@ -11,6 +11,8 @@
 #include <QPixmap>
 #include <QPointer>
 
+#include <stdexcept>
+
 namespace vellarno::forms {
 
 namespace {
@@ -34,8 +36,8 @@ void MsgBox(const std::string& Prompt, MessageStyle Style, const std::string& Ti
                                      MessagePictureSide, box->devicePixelRatioF()));
     box->setStandardButtons(QMessageBox::Ok);
     // The toolkit would wrap whatever is wider than half of the screen.
-    auto* text = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-    text->setMinimumWidth(text->sizeHint().width());
+    if (auto* text = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
+        text->setMinimumWidth(text->sizeHint().width());
     box->exec();
     delete box;
 }
@@ -72,7 +74,8 @@ void SetScreenPointer(bool Hourglass)
 std::string ReadResource(const std::string& Path)
 {
     QFile resource(QString::fromStdString(Path));
-    return resource.open(QIODevice::ReadOnly) ? resource.readAll().toStdString() : std::string();
+    if (!resource.open(QIODevice::ReadOnly)) throw std::logic_error(Path);
+    return resource.readAll().toStdString();
 }
 
 }

@@ -7,7 +7,8 @@ namespace vellarno::forms {
 /// Style codes of a message box.
 enum MessageStyle { Critical = 16, Information = 64 };
 
-/// Shows a modal message with the one button OK and returns when it has been closed.
+/// Shows a modal message with the one button OK and returns when it has been closed. Lines of the
+/// prompt are parted by CR LF.
 void MsgBox(const std::string& Prompt, MessageStyle Style, const std::string& Title);
 
 /// The system's beep.
@@ -26,7 +27,7 @@ void SetClipboardText(const std::string& Text);
 /// The pointer over all windows of the program: the hourglass, or their own pointers again.
 void SetScreenPointer(bool Hourglass);
 
-/// The bytes of a resource, or none if there is no such resource.
+/// The bytes of a resource. One that isn't there is a fault of the program: std::logic_error.
 std::string ReadResource(const std::string& Path);
 
 }
