@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace vellarno::forms {
@@ -55,29 +56,30 @@ private:
 
 QtMessageHandler toolkitMessages = nullptr;
 
-/// What the toolkit tells the terminal in English, and is no matter for a user: where it puts
-/// files of a session without a folder, and that a language has no table of composed characters.
+/// What the toolkit tells the terminal in English, and is no matter for a user: that a session has
+/// no folder of its own, and a language no table of composed characters.
 bool IsHarmless(const QString& Message)
 {
-    return Message.startsWith(QLatin1String("QStandardPaths: ")) ||
+    return Message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
            Message.contains(QLatin1String("compose table"));
 }
 
 /// Stands in while the toolkit looks for a display: it complains of each kind in turn, also where
 /// the next one is there, and aborts after the last. A plugin that can't be loaded is no missing
-/// screen: then its own word follows.
+/// screen, and a Wayland session may lack one: then the toolkit's own word follows.
 void TellNoDisplay(QtMsgType Type, const QMessageLogContext&, const QString& Message)
 {
     static bool unreachable = false;
     unreachable = unreachable || Message.contains(QLatin1String("connect to display"));
     if (Type != QtFatalMsg) return;
     std::fputs("Impossibile avviare il programma: nessuno schermo raggiungibile.\n", stderr);
-    if (!unreachable) std::fprintf(stderr, "%s\n", qPrintable(Message));
+    if (!unreachable || qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
+        std::fprintf(stderr, "%s\n", qPrintable(Message));
     std::_Exit(EXIT_FAILURE);
 }
 
 /// The toolkit ends the program when the display is gone, and says so in English.
-void TellLostDisplay(QtMsgType Type, const QMessageLogContext& Context, const QString& Message)
+void TellTerminal(QtMsgType Type, const QMessageLogContext& Context, const QString& Message)
 {
     if (Message.contains(QLatin1String("connection broke")))
         std::fputs("Lo schermo non risponde più: il programma termina.\n", stderr);
@@ -104,11 +106,11 @@ struct Application::Parts
     std::function<void()> end;
 };
 
-Application::Application(int ArgumentCount, char** Arguments)
+Application::Application(int ArgumentCount, char** Given)
 {
     toolkitMessages = qInstallMessageHandler(TellNoDisplay);
-    parts = std::make_unique<Parts>(ArgumentCount, Arguments);
-    qInstallMessageHandler(TellLostDisplay);
+    parts = std::make_unique<Parts>(ArgumentCount, Given);
+    qInstallMessageHandler(TellTerminal);
     QApplication::setApplicationName(QStringLiteral("vellarno"));
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(QStringLiteral("vellarno"));
@@ -137,7 +139,7 @@ void Application::OnEndRequest(std::function<void()> Handler)
     // windows.
     QObject::connect(
         &parts->application, &QGuiApplication::commitDataRequest,
-        [](QSessionManager& session) { session.setRestartHint(QSessionManager::RestartNever); });
+        [](QSessionManager& Session) { Session.setRestartHint(QSessionManager::RestartNever); });
     if (pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) return;
     parts->signals = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
     QObject::connect(parts->signals.get(), &QSocketNotifier::activated, [this] {

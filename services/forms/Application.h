@@ -9,7 +9,7 @@ namespace vellarno::forms {
 class Application
 {
 public:
-    Application(int ArgumentCount, char** Arguments);
+    Application(int ArgumentCount, char** Given);
     ~Application();
 
     /// Runs the events of all windows until Quit; gives the process's exit code.
