@@ -4,11 +4,16 @@
 #include "services/forms/CheckBox.h"
 #include "services/forms/CommandButton.h"
 #include "services/forms/OptionButton.h"
-#include "services/platform/PrivateFile.h"
 
 #include <filesystem>
 
 namespace vellarno {
+
+namespace {
+
+constexpr const char* HelpFileName = "HelpVellarno.htm";
+
+}
 
 bool OnTopFlag = false;
 

@@ -20,7 +20,7 @@ public:
         forms::MsgBox(Prompt, Style, Title);
     }
     void PlaySound(const std::string& WaveImage) override { sounds.Play(WaveImage); }
-    bool OpenAddress(const std::string& Address) override { return vellarno::OpenAddress(Address); }
+    void OpenAddress(const std::string& Address) override { vellarno::OpenAddress(Address); }
     bool StartEntry(const std::string& Entry) override { return vellarno::StartEntry(Entry); }
     std::string PrivateFolder() override { return vellarno::PrivateFolder(); }
     bool Compositing() override { return vellarno::Compositing(); }

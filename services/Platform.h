@@ -6,8 +6,9 @@
 
 namespace vellarno {
 
-/// All by which the program reaches out of its process. A test puts a recorder in its place.
-/// Nothing here fails loudly: what the machine can't do is left undone.
+/// By what the program reaches out of its process, but for the help page's file, the clipboard and
+/// what windows ask of X11. A test puts a recorder in its place. Nothing here fails loudly: what
+/// the machine can't do is left undone.
 class Platform
 {
 public:
@@ -19,7 +20,7 @@ public:
     /// Starts a sound given as a WAV image and returns at once; it cuts off the one before.
     virtual void PlaySound(const std::string& WaveImage) = 0;
     /// Opens a file or an address in the application that the desktop has for it.
-    virtual bool OpenAddress(const std::string& Address) = 0;
+    virtual void OpenAddress(const std::string& Address) = 0;
     /// Starts a program of the desktop by the name of its entry; it then lives by itself.
     /// @return false if the entry or its program isn't there.
     virtual bool StartEntry(const std::string& Entry) = 0;

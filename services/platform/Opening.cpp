@@ -8,12 +8,12 @@
 
 namespace vellarno {
 
-bool OpenAddress(const std::string& Address)
+void OpenAddress(const std::string& Address)
 {
     const QString address = QString::fromStdString(Address);
     const QFileInfo file(address);
     const QUrl url = file.exists() ? QUrl::fromLocalFile(file.absoluteFilePath()) : QUrl(address);
-    return QDesktopServices::openUrl(url);
+    QDesktopServices::openUrl(url);
 }
 
 bool StartEntry(const std::string& Entry)

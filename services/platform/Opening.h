@@ -4,9 +4,8 @@
 
 namespace vellarno {
 
-/// Opens a file or an address in the application that the desktop has for it.
-/// @return false when the desktop has none or could not start it.
-bool OpenAddress(const std::string& Address);
+/// Opens a file or an address in the application that the desktop has for it, if it has one.
+void OpenAddress(const std::string& Address);
 
 /// Starts, without a shell, the program of a desktop entry; it then lives by itself.
 /// @param Entry  name of the entry's file without ".desktop".

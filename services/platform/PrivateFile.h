@@ -4,9 +4,6 @@
 
 namespace vellarno {
 
-/// The help page's file, of which the user's folder holds one at most.
-inline constexpr const char* HelpFileName = "HelpVellarno.htm";
-
 /// Writes a file that only the user can read, in place of one that is there. Never through a link
 /// and never into anything but an ordinary file.
 /// @return false if it could not be written whole.

@@ -66,7 +66,7 @@ public:
             if (WaveImage == forms::ReadResource(resources::Path(sound)))
                 Note("sound " + std::to_string(static_cast<int>(sound)));
     }
-    bool OpenAddress(const std::string& Address) override { return Note("open " + Address); }
+    void OpenAddress(const std::string& Address) override { Note("open " + Address); }
     bool StartEntry(const std::string& Entry) override
     {
         return (OnlyEntry.empty() || OnlyEntry == Entry) && Note("start " + Entry);
