@@ -16,32 +16,35 @@ namespace vellarno::forms {
 
 namespace {
 
-/// The character code of a key press: control characters as their codes, 0 for a key without one.
+constexpr short NoCharacter = 0, Escape = 27, DeleteWord = 127;
+
+/// The character code of a key press: control characters as their codes, or NoCharacter.
 short CharacterCode(const QKeyEvent& Event)
 {
     switch (Event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter: return KeyEnter;
-    case Qt::Key_Escape: return 27;
+    case Qt::Key_Escape: return Escape;
     case Qt::Key_Backspace:
-        return Event.modifiers().testFlag(Qt::ControlModifier) ? 127 : KeyBackspace;
+        return Event.modifiers().testFlag(Qt::ControlModifier) ? DeleteWord : short{KeyBackspace};
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
-    case Qt::Key_Delete: return 0;
+    case Qt::Key_Delete: return NoCharacter;
     default: break;
     }
     const auto modifiers = Event.modifiers();
     const bool control = modifiers.testFlag(Qt::ControlModifier);
-    if (modifiers.testFlag(Qt::AltModifier) && !control) return 0;
+    if (modifiers.testFlag(Qt::AltModifier) && !control) return NoCharacter;
     if (control && Event.key() >= Qt::Key_A && Event.key() <= Qt::Key_Z)
         return static_cast<short>(Event.key() - Qt::Key_A + 1);
-    return Event.text().isEmpty() ? short{0} : static_cast<short>(Event.text().front().unicode());
+    return Event.text().isEmpty() ? NoCharacter
+                                  : static_cast<short>(Event.text().front().unicode());
 }
 
 /// A key without Shift and the like.
 Key KeyOf(const QKeyEvent& Event)
 {
-    static constexpr std::pair<int, Key> keys[] = {
+    static constexpr std::pair<int, Key> Keys[] = {
         {Qt::Key_Left, Key::Left},     {Qt::Key_Right, Key::Right},
         {Qt::Key_Up, Key::Up},         {Qt::Key_Down, Key::Down},
         {Qt::Key_PageUp, Key::PageUp}, {Qt::Key_PageDown, Key::PageDown},
@@ -49,7 +52,7 @@ Key KeyOf(const QKeyEvent& Event)
         {Qt::Key_Return, Key::Enter},  {Qt::Key_Enter, Key::Enter},
         {Qt::Key_Space, Key::Space}};
     const bool alone = (Event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    for (const auto& [code, key] : keys)
+    for (const auto& [code, key] : Keys)
         if (alone && code == Event.key()) return key;
     return Key::Other;
 }
@@ -104,11 +107,11 @@ void Control::SetMenu(const std::vector<MenuEntry>& Entries)
     }
     if (!ClickedByMouse()) return; // an entry field opens its own
     self.setContextMenuPolicy(Qt::CustomContextMenu);
-    QObject::connect(&self, &QWidget::customContextMenuRequested, &self, [this](const QPoint& at) {
+    QObject::connect(&self, &QWidget::customContextMenuRequested, &self, [this](const QPoint& At) {
         auto* menu = new QMenu(&self);
         menu->setAttribute(Qt::WA_DeleteOnClose);
         menu->addActions(self.actions());
-        menu->popup(self.mapToGlobal(at));
+        menu->popup(self.mapToGlobal(At));
     });
 }
 
@@ -151,7 +154,7 @@ bool Control::BeforeEvent(QEvent& Event)
     // A key that is held down goes on moving, but presses once: it may have opened what hears it.
     if (KeyDown && !(presses && key.isAutoRepeat()) && KeyDown(pressed)) return true;
     short code = CharacterCode(key);
-    const KeyFate fate = code == 0 ? KeyFate::Unchanged : FilterCharacter(code);
+    const KeyFate fate = code == NoCharacter ? KeyFate::Unchanged : FilterCharacter(code);
     if (fate == KeyFate::Swallowed) {
         key.accept();
         return true;

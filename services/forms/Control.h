@@ -22,7 +22,7 @@ enum class Pointer { Default, Help, Hand };
 /// Keys without a character, and the two that press a control.
 enum class Key { Other, Left, Right, Up, Down, PageUp, PageDown, Home, End, Enter, Space };
 
-/// What stands in KeyAscii beside characters; a handler of KeyPress writes one of the first two.
+/// What stands in KeyAscii beside characters: the first two are written by a handler of KeyPress.
 enum : short { KeyDropped = 0, KeyNothing = 1, KeyBackspace = 8, KeyEnter = 13 };
 
 /// An entry of the menu that a right click on a control opens.
@@ -65,13 +65,12 @@ public:
     void SetWidth(int Pixels) { self.resize(Pixels, self.height()); }
     void SetHeight(int Pixels) { self.resize(self.width(), Pixels); }
     void Move(int X, int Y, int Wide, int High) { self.setGeometry(X, Y, Wide, High); }
-    /// Moves the control, place and all, into another container.
+    /// Moves the control, place and all, into another container, where it is hidden.
     void SetContainer(Control& Container) { self.setParent(&Container.self); }
 
     /// Does nothing on a disabled control; while the control is hidden it is only noted.
     void SetFocus();
 
-    std::string ToolTipText() const { return self.toolTip().toStdString(); }
     void SetToolTipText(const std::string& Text) { self.setToolTip(QString::fromStdString(Text)); }
     std::string AccessibleName() const { return self.accessibleName().toStdString(); }
     /// A screen reader hears of each change.
@@ -124,7 +123,6 @@ private:
     QWidget& self;
     bool filtered = false; ///< the key under way has passed the filter already
     bool again = false;    ///< the button is down for the second time of a double click
-    friend class Form;
 };
 
 /// Joins the common part of all controls to the Qt widget that does the work.

@@ -22,6 +22,7 @@ public:
     explicit Label(QWidget* Parent = nullptr);
 
     std::string Caption() const { return text().toStdString(); }
+    /// Lines are parted by CR LF.
     void SetCaption(const std::string& Text);
     /// Makes the label as wide as its caption, so that no click beside the caption is its own.
     void FitWidth() { SetWidth(sizeHint().width()); }

@@ -20,10 +20,10 @@ constexpr int BlinkingMilliseconds = 10'000;
 /// the window stands open. The toolkit has one flash time for the whole program.
 void LetCaretBlink(bool On)
 {
-    constexpr int asTheDesktopHasIt = -1, never = 0;
+    constexpr int AsTheDesktopHasIt = -1, Never = 0;
     QStyleHints& hints = *QGuiApplication::styleHints();
-    if ((hints.cursorFlashTime() != never) != On)
-        hints.setCursorFlashTime(On ? asTheDesktopHasIt : never);
+    if ((hints.cursorFlashTime() != Never) != On)
+        hints.setCursorFlashTime(On ? AsTheDesktopHasIt : Never);
 }
 
 /// A click that brings the window back follows its return at once, nobody else's click does.

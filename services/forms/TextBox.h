@@ -25,7 +25,6 @@ public:
     void SetText(const std::string& Words) { setText(QString::fromStdString(Words)); }
     int MaxLength() const { return maxLength(); }
     void SetMaxLength(int Characters) { setMaxLength(Characters); }
-    int SelLength() const { return selectionLength(); }
     void Select(int From, int Length) { setSelection(From, Length); }
 
 protected:

@@ -106,8 +106,8 @@ QMargins FrameMargins(QWidget& Window)
         extents = Property(display, window, answer);
     }
     if (extents.size() != 4) return {};
-    const auto pixels = [&](std::size_t side) {
-        return qRound(extents[side] / Window.devicePixelRatioF());
+    const auto pixels = [&](std::size_t Side) {
+        return qRound(extents[Side] / Window.devicePixelRatioF());
     };
     return {pixels(0), pixels(2), pixels(1), pixels(3)}; // told as left, right, top, bottom
 }

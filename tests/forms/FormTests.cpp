@@ -45,7 +45,7 @@ TEST_F(Forms, AnotherWindowTakesNeitherFocusNorSelection)
     Person(another).Open();
     Open();
     Click(box); // as that which brings the window back
-    EXPECT_EQ(box.SelLength(), 2);
+    EXPECT_EQ(box.selectionLength(), 2);
     EXPECT_EQ(TakeLog(), "");
     Person(another).Open();
     other.SetFocus();

@@ -39,7 +39,7 @@ void ExpectLayout(const forms::Form& Form, int Hands, std::span<const LayoutRow>
         const QString picture = widget.property("Picture").toString();
         EXPECT_EQ(text.isEmpty() ? picture : text, shows);
         EXPECT_TRUE(picture.isEmpty() || QFile::exists(picture.chopped(4) + "@3x.png"));
-        const std::string begins = row.ToolTip, toolTip = control->ToolTipText();
+        const std::string begins = row.ToolTip, toolTip = widget.toolTip().toStdString();
         EXPECT_TRUE(toolTip.starts_with(begins) && toolTip.empty() == begins.empty()) << toolTip;
         const auto* box = dynamic_cast<const QLineEdit*>(&widget);
         EXPECT_EQ(box && !box->isReadOnly() ? box->maxLength() : 0, row.MaxLength);
