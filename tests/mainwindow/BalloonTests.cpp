@@ -32,7 +32,7 @@ TEST_F(Balloons, TellWhatATotalMeansUnderTheOptionsInForce)
         Tick(chkDayInt, wholeDay);
         Tick(chkWorkSat, saturdaysOff);
         Choose(Mode::Moments);
-        Hover(lblTotali[(total + 1) % 9]); // whose balloon goes
+        Hover(lblTotali[(total + 1) % ResultLabels::TotalCount]); // whose balloon goes
         Hover(lblTotali[total]);
         EXPECT_TRUE(Balloon().starts_with(std::string(heading) + ": ")) << Balloon();
         EXPECT_NE(Balloon().find(tells), std::string::npos) << Balloon();

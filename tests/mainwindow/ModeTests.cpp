@@ -104,7 +104,8 @@ TEST_F(Modes, ABoxRecalculatesCompleteDataAtOnce)
         Fill(mode);
         for (const bool off : {true, false}) {
             Tick(chkWorkSat, off);
-            EXPECT_NE(Figures().find(off ? " 252 52 52 08" : " 303 52 52 09"), std::string::npos);
+            EXPECT_NE(Figures().find(off ? " 252 52 52 08" : " 303 52 52 09"), std::string::npos)
+                << Figures();
             for (const int total : {0, 1, 2, 3, 4, 5}) // saturdays, sundays, holidays last
                 for (const auto* label : {&lblTotali[total], &lblLabel[15 + total]})
                     EXPECT_EQ(CountPoints(Seen(*label), Qt::red) > 3, total > (off ? 2 : 3));

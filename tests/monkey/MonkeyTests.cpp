@@ -84,7 +84,7 @@ struct Monkey : MainWindow
             [&] { person.Paste(Any(HostileTexts)); },
             [&] { person.Commit(Any(HostileTexts)); },
             [&] { before.Click(*Any(favourites)); },
-            [&] { before.Hover(lblTotali[Below(9)]); }, // a balloon
+            [&] { before.Hover(lblTotali[Below(ResultLabels::TotalCount)]); }, // a balloon
             [&] { Calculate(); },
             [&] { (&window != &form || OneIn(4)) ? window.Close() : void(); },
             [&] { window.setWindowState(OneIn(2) ? Qt::WindowMinimized : Qt::WindowNoState); },
