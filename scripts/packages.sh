@@ -5,7 +5,7 @@
 # Without make the linker of the optimised program works on one core, and complains of it.
 BUILD_PACKAGES="g++ make cmake ninja-build:ninja pkg-config qt6-base-dev:Qt6Widgets libgl-dev:gl
   librsvg2-bin:rsvg-convert libcanberra-dev:libcanberra libasound2-dev:alsa
-  libfontconfig-dev:fontconfig libxcb1-dev:xcb
+  libfontconfig-dev:fontconfig libpng-dev:libpng libxcb1-dev:xcb
   fonts-liberation:/usr/share/fonts/**/LiberationSans-Regular.ttf"
 DISPLAY_PACKAGES="xvfb:Xvfb openbox xdotool imagemagick:import"
 TEST_PACKAGES="libgtest-dev:gtest tidy binutils:readelf python3 x11-utils:xprop

@@ -1,5 +1,7 @@
 #include "services/forms/Look.h"
 
+#include "services/forms/Globals.h"
+
 #include <QApplication>
 #include <QLinearGradient>
 #include <QPainter>
@@ -7,6 +9,8 @@
 #include <QProxyStyle>
 #include <QScrollBar>
 #include <QToolTip>
+
+#include <png.h>
 
 namespace vellarno::forms {
 
@@ -54,14 +58,30 @@ void DrawShadow(QPainter& Painter, const QRect& Area)
         Painter.drawRoundedRect(Area.adjusted(i, i, -i, -i), PanelRadius, PanelRadius);
 }
 
+/// A picture of the resources, all of which are PNG. The toolkit's own reader would first load
+/// every other format that the desktop has, to ask whether it is the one.
+QImage ReadPicture(const QString& Path)
+{
+    const std::string bytes = ReadResource(Path.toStdString());
+    png_image file{};
+    file.version = PNG_IMAGE_VERSION;
+    png_image_begin_read_from_memory(&file, bytes.data(), bytes.size());
+    file.format = PNG_FORMAT_RGBA;
+    QImage picture(static_cast<int>(file.width), static_cast<int>(file.height),
+                   QImage::Format_RGBA8888);
+    png_image_finish_read(&file, nullptr, picture.bits(),
+                          static_cast<png_int_32>(picture.bytesPerLine()), nullptr);
+    return picture;
+}
+
 /// The drawing at its own size if that is the one wanted, else the large one shrunk to the pixel.
 QImage PictureOfSize(const QString& Path, const QSize& Pixels)
 {
-    QImage own(Path);
+    QImage own = ReadPicture(Path);
     if (own.size() == own.size().scaled(Pixels, Qt::KeepAspectRatio)) return own;
     QString large = Path;
     large.insert(Path.lastIndexOf(u'.'), QStringLiteral("@3x"));
-    return QImage(large).scaled(Pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return ReadPicture(large).scaled(Pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 /// The palette comes from the style, not from the application: colours set there are copied for
@@ -186,7 +206,8 @@ void SetUpLook()
     // Italian words and digits: there is nothing to search the other fonts for.
     font.setStyleStrategy(QFont::NoFontMerging);
     QApplication::setFont(font);
-    QApplication::setWindowIcon(QPixmap(QStringLiteral(":/pictures/vellarno.png")));
+    QApplication::setWindowIcon(
+        QPixmap::fromImage(ReadPicture(QStringLiteral(":/pictures/vellarno.png"))));
     QToolTip::setFont(font);
     QToolTip::setPalette(ToolkitPalette());
 }
