@@ -51,22 +51,20 @@ TEST_F(Calendar, ShowsTheDaysOfAMonthWithSundaysAndHolidaysInRed)
     }
 }
 
-struct MonthOn
-{
-    std::string Month, Year, Shown;
-    Qt::Key Arrow;
-    std::string Stepped;
-};
-
 TEST_F(Calendar, OpensOnTheMonthOfItsEntryElseOnTodaysAndStepsUpToItsLimits)
 {
-    const MonthOn rows[] = {{"03", "2021", " MAR 2021", Qt::Key_Left, " FEB 2021"},
-                            {"1", "2005", " GEN 2005", Qt::Key_Left, " DIC 2004"},
-                            {"12", "2005", " DIC 2005", Qt::Key_Right, " GEN 2006"},
-                            {"12", "2100", " DIC 2100", Qt::Key_Right, " GEN 2100"},
-                            {"1", "1900", " GEN 1900", Qt::Key_Left, " DIC 1900"},
-                            {"12", "999", " NOV 2026", Qt::Key_Right, " DIC 2026"},
-                            {"", "2021", " NOV 2026", Qt::Key_Left, " OTT 2026"}};
+    const struct
+    {
+        std::string Month, Year, Shown;
+        Qt::Key Arrow;
+        std::string Stepped;
+    } rows[] = {{"03", "2021", " MAR 2021", Qt::Key_Left, " FEB 2021"},
+                {"1", "2005", " GEN 2005", Qt::Key_Left, " DIC 2004"},
+                {"12", "2005", " DIC 2005", Qt::Key_Right, " GEN 2006"},
+                {"12", "2100", " DIC 2100", Qt::Key_Right, " GEN 2100"},
+                {"1", "1900", " GEN 1900", Qt::Key_Left, " DIC 1900"},
+                {"12", "999", " NOV 2026", Qt::Key_Right, " DIC 2026"},
+                {"", "2021", " NOV 2026", Qt::Key_Left, " OTT 2026"}};
     for (const int entry : {0, 1})
         for (const auto& [month, year, shown, arrow, stepped] : rows) {
             txtData[entry * 3 + 1].SetText(month);

@@ -17,24 +17,20 @@ TEST(Accumulators, TheClockGoesRoundInSeconds)
         }
 }
 
-struct Step
-{
-    const char* Date;
-    int Unit; ///< days, weeks, months, quarters
-    const char* Quantity;
-    bool Subtract;
-    std::optional<DateValue> Result;
-};
-
 TEST(Accumulators, ADateIsSteppedOrThereIsNone)
 {
-    const Step rows[] = {{"31/12/2020", 0, "1", false, DateSerial(2021, 1, 1)},
-                         {"31/1/2020", 2, "01", false, DateSerial(2020, 2, 29)},
-                         {"31/3/2021", 2, "1", true, DateSerial(2021, 2, 28)},
-                         {"1/1/0100", 1, "1", true, {}},
-                         {"31/4/2021", 0, "0", false, {}},
-                         {"00/01/2021", 0, "0", false, {}},
-                         {"1/1/2021", 0, "", false, {}}};
+    const struct
+    {
+        const char* Date;
+        int Unit; ///< days, weeks, months, quarters
+        const char* Quantity;
+        bool Subtract;
+        std::optional<DateValue> Result;
+    } rows[] = {{"31/1/2020", 2, "01", false, DateSerial(2020, 2, 29)},
+                {"31/3/2021", 2, "1", true, DateSerial(2021, 2, 28)},
+                {"1/1/0100", 1, "1", true, {}},
+                {"00/01/2021", 0, "0", false, {}},
+                {"1/1/2021", 0, "", false, {}}};
     for (const auto& [date, unit, quantity, subtract, result] : rows)
         EXPECT_EQ(StepDate(date, DateUnits[unit], quantity, subtract), result) << date;
 }

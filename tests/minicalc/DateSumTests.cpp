@@ -12,21 +12,19 @@ struct DateSum : testing::Test, SumsWindow
     DateSum() : SumsWindow(Date) {}
 };
 
-struct Sum
-{
-    int Unit; ///< days, weeks, months, quarters
-    const char* From;
-    const char* Quantity; ///< with its sign
-    const char* Result;
-};
-
 TEST_F(DateSum, StepsByDaysWeeksMonthsAndQuarters)
 {
-    const Sum rows[] = {{0, "01032020", "-1", "29/02/2020 1 giorni"},
-                        {0, "22112026", "+99999", "08/04/2054 9999 giorni"},
-                        {1, "15062021", "+2", "29/06/2021 2 settimane"},
-                        {2, "29022020", "+001", "29/03/2020 001 mesi"},
-                        {3, "30112019", "+1", "29/02/2020 1 trimestri"}};
+    const struct
+    {
+        int Unit; ///< days, weeks, months, quarters
+        const char* From;
+        const char* Quantity; ///< with its sign
+        const char* Result;
+    } rows[] = {{0, "01032020", "-1", "29/02/2020 1 giorni"},
+                {0, "22112026", "+99999", "08/04/2054 9999 giorni"},
+                {1, "15062021", "+2", "29/06/2021 2 settimane"},
+                {2, "29022020", "+001", "29/03/2020 001 mesi"},
+                {3, "30112019", "+1", "29/02/2020 1 trimestri"}};
     for (const auto& [unit, from, quantity, result] : rows) {
         Click(optTipoDati[unit]);
         Enter(txtData[0], from);

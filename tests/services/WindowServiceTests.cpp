@@ -14,8 +14,8 @@ constexpr LayoutRow Controls[] = {
     {"Label4", "Programma freeware di libero utilizzo e distribuzione"},
     {"Label3", "© 2026 gli autori di Vellarno"},
     {"lblWarning",
-     "Disclaimer: questo programma viene fornito \"as is\" (così com'è) senza nessuna garanzia di "
-     "funzionamento.\nL 'autore, in ogni caso, non potrà essere ritenuto responsabile per "
+     "Disclaimer: questo programma viene fornito \"as is\" (così com'è) senza nessuna garanzia "
+     "di funzionamento.\nL 'autore, in ogni caso, non potrà essere ritenuto responsabile per "
      "eventuali danni derivati dall'utilizzo di questo programma."},
     {"Label7", "Per aggiornamenti visita il sito:"},
     {"imgsito", ":/pictures/banner.png", endpoints::WebSite},
@@ -23,19 +23,17 @@ constexpr LayoutRow Controls[] = {
     {"lblEmail", endpoints::Mail, "e-mail"},
     {"cmdChiudi", "Chiudi", "Esci"}};
 
-struct About : testing::Test, Stage<frmAbout>
-{};
-
-TEST_F(About, TellsWhatTheProgramIsAndTodaysDate)
+TEST(AboutBox, TellsWhatTheProgramIsAndTodaysDate)
 {
-    EXPECT_EQ(form.windowTitle(), "Informazioni");
-    EXPECT_EQ(TabOrder(*this), "cmdChiudi imgsito lblEmail");
-    EXPECT_EQ(form.size(), QSize(433, 317));
-    ExpectLayout(form, 3, Controls);
-    EXPECT_EQ(Find<forms::PictureBox>(form, "imgsito").PrintedText(), endpoints::WebSiteName);
-    const auto& warning = Find<forms::Label>(form, "lblWarning");
+    const Stage<frmAbout> box;
+    EXPECT_EQ(box.form.windowTitle(), "Informazioni");
+    EXPECT_EQ(TabOrder(box), "cmdChiudi imgsito lblEmail");
+    EXPECT_EQ(box.form.size(), QSize(433, 317));
+    ExpectLayout(box.form, 3, Controls);
+    EXPECT_EQ(Find<forms::PictureBox>(box.form, "imgsito").PrintedText(), endpoints::WebSiteName);
+    const auto& warning = Find<forms::Label>(box.form, "lblWarning");
     EXPECT_LE(warning.heightForWidth(warning.width()), warning.height());
-    EXPECT_GT(CountPoints(Seen(warning), Qt::red), 100);
+    EXPECT_GT(CountPoints(box.Seen(warning), Qt::red), 100);
 }
 
 TEST(AboutBox, ClosesByItsButtonItsKeysAndItsLinks)
@@ -50,8 +48,7 @@ TEST(AboutBox, ClosesByItsButtonItsKeysAndItsLinks)
         Stage<frmAbout> box;
         EXPECT_EQ(OpenWindows(), "frmAbout*");
         box.Click(Find<QWidget>(box.form, clicked).geometry().center());
-        EXPECT_EQ(OpenWindows(), "");
-        EXPECT_EQ(box.TakeLog(), log);
+        EXPECT_EQ(OpenWindows() + box.TakeLog(), log);
     }
     for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
         Stage<frmAbout> box;

@@ -67,8 +67,6 @@ public:
         return all;
     }
 
-    template <class ControlClass>
-    using Array = const forms::ControlArray<ControlClass>;
     Array<forms::TextBox> txtData{form, "txtData"}, txtTime{form, "txtTime"};
     Array<forms::Label> lblDati{form, "lblDati"}, lblTotali{form, "lblTotali"};
     Array<forms::Label> lblWeekDay{form, "lblWeekDay"}, lblLabel{form, "lblLabel"};

@@ -29,6 +29,9 @@ std::vector<WindowClass*> Shown()
 /// The names of the forms among them, a pinned one with a star: "frmMain* frmMiniCalc".
 std::string OpenWindows();
 
+template <class ControlClass>
+using Array = const forms::ControlArray<ControlClass>;
+
 /// The control of that name; a missing one ends the test.
 template <class ControlClass>
 ControlClass& Find(const forms::Form& In, const char* Name)

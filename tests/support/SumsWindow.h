@@ -26,8 +26,6 @@ public:
         return Row(txtData, 0, '/') + ' ' + txtSommaDati.Text() + ' ' + lblTime[5].Caption();
     }
 
-    template <class ControlClass>
-    using Array = const forms::ControlArray<ControlClass>;
     Array<forms::OptionButton> optBase{form, "optBase"}, optFormat{form, "optFormat"};
     Array<forms::OptionButton> optTipoDati{form, "optTipoDati"}, optSomma{form, "optSomma"};
     Array<forms::OptionButton> optSommaData{form, "optSommaData"};
